@@ -1,0 +1,20 @@
+#pragma once
+// The calls that bring the system up, made on a thread of their own so that no window waits: endpoint, switch,
+// catalogues, tasks. Endpoint and catalogues are tried again at growing intervals until they have come once.
+
+#include <QString>
+#include <functional>
+
+class StartUp {
+ public:
+  struct Events {
+    /// The tasks are loaded. Called on the start-up thread.
+    std::function<void()> tasksLoaded;
+    /// An exception ended the sequence. Called on the start-up thread.
+    std::function<void(const QString& reason)> failed;
+  };
+  /// Begins the sequence; once per process.
+  static void begin(const Events& events);
+  /// Ends the thread, breaking a call off; true if it ended within `timeoutMs`.
+  static bool stop(int timeoutMs);
+};

@@ -1,0 +1,19 @@
+#pragma once
+// The seam between our careful file operations and the kernel: each virtual is one system call, so that a test's
+// double can fail the n-th of them. real() is stateless and safe from any thread.
+
+#include <sys/types.h>
+
+class FileOps {
+ public:
+  virtual ~FileOps() = default;
+  virtual int open(const char* path, int flags, mode_t mode);
+  virtual ssize_t read(int fd, void* buffer, size_t size);
+  virtual ssize_t write(int fd, const void* buffer, size_t size);
+  virtual int sync(int fd);  ///< fsync: data and metadata
+  virtual int close(int fd);
+  virtual int rename(const char* from, const char* to);           ///< replaces the target
+  virtual int renameNoReplace(const char* from, const char* to);  ///< EEXIST if the target exists, on every file system
+  virtual int unlink(const char* path);
+  static FileOps& real();
+};

@@ -1,0 +1,99 @@
+#pragma once
+// HTTP/1.0 for one exchange on a connection of its own (RFC 1945, RFC 9112 framing by Content-length): plain TCP, or
+// TLS 1.2 and later through OpenSSL with the host's certificate checked. A socket belongs to the thread that calls
+// it; no connection is reused. Every phase (name, connect, proxy, TLS, request, reply) has its limit, and a stop ends
+// each within a second.
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+#include <functional>
+#include <memory>
+#include <utility>
+
+/// Ordered header fields; names are compared without regard to case (RFC 9110).
+class InternetHeaders {
+ public:
+  void append(const QByteArray& name, const QByteArray& value) { m_fields.append({name, value}); }
+  void set(const QByteArray& name, const QByteArray& value);  ///< replaces the first of that name, else appends
+  [[nodiscard]] QByteArray value(const QByteArray& name) const;
+  [[nodiscard]] int Count() const { return static_cast<int>(m_fields.size()); }
+  [[nodiscard]] const QList<std::pair<QByteArray, QByteArray>>& fields() const { return m_fields; }
+
+ private:
+  QList<std::pair<QByteArray, QByteArray>> m_fields;
+};
+
+/// How an exchange ended when it did not end with a whole page.
+struct HttpFailure {
+  enum class Phase { None, Name, Connect, Proxy, Tls, Request, Reply, TooLarge, TimedOut, Source, Stopped };
+  Phase phase = Phase::None;
+  int code = 0;    ///< errno or library code; -1 for a time-out
+  QString detail;  ///< words for a person; names the peer, never a secret
+  [[nodiscard]] bool failed() const { return phase != Phase::None; }
+};
+
+/// The content of a request, read piece by piece while it is sent.
+class RequestSource {
+ public:
+  virtual ~RequestSource() = default;
+  /// Bytes in all, known before the first is read.
+  [[nodiscard]] virtual qint64 size() const = 0;
+  /// Appends the next piece (about 64 KiB) to `buffer`; false breaks the exchange off. Nothing appended: the end.
+  [[nodiscard]] virtual bool read(QByteArray& buffer) = 0;
+};
+
+/// Bounds of a client; the defaults are the product's, tests shorten them.
+struct HttpLimits {
+  qint64 maxReplyBytes = 64LL << 20;
+  qint64 maxHeaderBytes = 64LL << 10;
+};
+
+class HTTPSocket {
+ public:
+  HTTPSocket();
+  virtual ~HTTPSocket();
+  HTTPSocket(const HTTPSocket&) = delete;
+  HTTPSocket& operator=(const HTTPSocket&) = delete;
+
+  QString HTTPProxyAddress;  ///< blank for none
+  int HTTPProxyPort = 0;
+  int DefaultPort = 80;
+  InternetHeaders requestHeaders;  ///< starts with Accept and Accept-Language
+  HttpLimits limits;
+
+  void SetRequestContent(const QByteArray& content, const QByteArray& mimeType);
+  void SetRequestSource(std::unique_ptr<RequestSource> source, const QByteArray& mimeType);
+
+  /// Posts and gives the reply's body as it came, whatever its status; a part of it, or nothing, when the exchange
+  /// failed. `timeoutMs` bounds the time until the connection stands, then the time from there to the first body
+  /// byte, then each silence of the body. Sending is no sign of life.
+  [[nodiscard]] QByteArray Post(const QString& url, int timeoutMs);
+  /// The same with GET and without content.
+  [[nodiscard]] QByteArray Get(const QString& url, int timeoutMs);
+
+  [[nodiscard]] int HTTPStatusCode() const;
+  [[nodiscard]] const InternetHeaders& PageHeaders() const;
+  [[nodiscard]] const HttpFailure& failure() const;
+
+ protected:
+  explicit HTTPSocket(bool secure);
+
+ private:
+  struct Exchange;
+  std::unique_ptr<Exchange> m_exchange;
+};
+
+/// The same over TLS, port 443 by default.
+class HTTPSecureSocket : public HTTPSocket {
+ public:
+  HTTPSecureSocket();
+};
+
+namespace VantryUtil {
+/// Sets the proxy in force on a new socket, if there is one (address not blank, port 1 or more).
+void ConfigureProxy(HTTPSocket& socket);
+/// A PEM file trusted beside the system's store for connections made from now on; empty for none. The build's own
+/// setting holds until this is called. For the practice build's tests. Any thread.
+void setExtraCaFile(const QString& pemFile);
+}  // namespace VantryUtil
