@@ -120,11 +120,11 @@ QString BatchLedger::toText() const {
 
 void BatchLedger::fromText(const QString& text) {
   m_dealtWith.clear();
-  const auto decoded = QByteArray::fromBase64Encoding(text.toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
-  m_hasMemory = decoded.decodingStatus == QByteArray::Base64DecodingStatus::Ok && decoded->size() % 16 == 0;
+  const auto result = QByteArray::fromBase64Encoding(text.toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
+  m_hasMemory = result && result.decoded.size() % 16 == 0;
   if (!m_hasMemory) return;
-  for (qsizetype i = 0; i < decoded->size(); i += 16) {
-    const char* pair = decoded->constData() + i;
+  for (qsizetype i = 0; i < result.decoded.size(); i += 16) {
+    const char* pair = result.decoded.constData() + i;
     m_dealtWith.insert(qFromLittleEndian<quint64>(pair), qFromLittleEndian<qint64>(pair + 8));
   }
 }

@@ -64,8 +64,8 @@ QString UploaderTask::Rename(const QString& name, const Date& now) const {
 
   const QString ext = name.mid(name.lastIndexOf(u'.') + 1).trimmed();
   if (!ReplaceName) parts << name.left(std::max<qsizetype>(0, name.size() - (ext.size() + 1)));
-  parts << u"%1-%2"_s.arg(now.Year(), 4, 10, u'0').arg(now.Month(), 2, 10, u'0');
-  parts << u"%1h%2m%3s"_s.arg(now.Hour(), 2, 10, u'0').arg(now.Minute()).arg(now.Second());
+  parts << u"%1-%2"_s.arg(now.Year(), 4, 10, QLatin1Char('0')).arg(now.Month(), 2, 10, QLatin1Char('0'));
+  parts << u"%1h%2m%3s"_s.arg(now.Hour(), 2, 10, QLatin1Char('0')).arg(now.Minute()).arg(now.Second());
   parts << u'.' + ext;
   return parts.join(u'_');
 }
