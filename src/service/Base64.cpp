@@ -41,11 +41,10 @@ __attribute__((target("avx2"))) static qsizetype encodeGroupsAvx2(const unsigned
   const __m256i evenMask = _mm256_set1_epi32(0x0fc0fc00), evenShift = _mm256_set1_epi32(0x04000040);
   const __m256i oddMask = _mm256_set1_epi32(0x003f03f0), oddShift = _mm256_set1_epi32(0x01000010);
   // What is to be added to a six-bit value to get its character, by class: A-Z, a-z (13), 0-9 (1 to 10), +, /.
-  const __m256i offsets =
-      _mm256_setr_epi8('a' - 26, '0' - 52, '0' - 52, '0' - 52, '0' - 52, '0' - 52, '0' - 52, '0' - 52, '0' - 52,
-                       '0' - 52, '0' - 52, '+' - 62, '/' - 63, 'A', 0, 0,  //
-                       'a' - 26, '0' - 52, '0' - 52, '0' - 52, '0' - 52, '0' - 52, '0' - 52, '0' - 52, '0' - 52,
-                       '0' - 52, '0' - 52, '+' - 62, '/' - 63, 'A', 0, 0);
+  const __m256i offsets = _mm256_setr_epi8('a' - 26, '0' - 52, '0' - 52, '0' - 52, '0' - 52, '0' - 52, '0' - 52,
+                                           '0' - 52, '0' - 52, '0' - 52, '0' - 52, '+' - 62, '/' - 63, 'A', 0, 0,  //
+                                           'a' - 26, '0' - 52, '0' - 52, '0' - 52, '0' - 52, '0' - 52, '0' - 52,
+                                           '0' - 52, '0' - 52, '0' - 52, '0' - 52, '+' - 62, '/' - 63, 'A', 0, 0);
   qsizetype done = 0;
   for (; groups - done >= 11; done += 8, in += 24, out += 32) {
     const __m128i low = _mm_loadu_si128(reinterpret_cast<const __m128i*>(in));
@@ -66,8 +65,8 @@ __attribute__((target("avx2"))) static qsizetype encodeGroupsAvx2(const unsigned
 /// Encodes blocks of 48 bytes to 64 characters (Muła and Lemire, 2020): spread the bytes, cut them into groups of six
 /// bits, look the groups up. It reads 16 bytes behind a block.
 __attribute__((target("avx512f,avx512bw,avx512vbmi"))) static qsizetype encodeGroupsAvx512(const unsigned char* in,
-                                                                                          qsizetype groups,
-                                                                                          char* out) {
+                                                                                           qsizetype groups,
+                                                                                           char* out) {
   alignas(64) std::array<char, 64> order{};
   for (size_t i = 0; i < 16; ++i) {
     const std::array<size_t, 4> bytesOfGroup = {1, 0, 2, 1};
@@ -89,13 +88,17 @@ __attribute__((target("avx512f,avx512bw,avx512vbmi"))) static qsizetype encodeGr
 
 bool supports(Base64Path path) {
   switch (path) {
-    case Base64Path::Portable: return true;
+    case Base64Path::Portable:
+      return true;
 #ifdef VANTRY_HAS_VECTOR_PATHS
-    case Base64Path::Avx2: return __builtin_cpu_supports("avx2") != 0;
-    case Base64Path::Avx512: return __builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("avx512vbmi");
+    case Base64Path::Avx2:
+      return __builtin_cpu_supports("avx2") != 0;
+    case Base64Path::Avx512:
+      return __builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("avx512vbmi");
 #else
     case Base64Path::Avx2:
-    case Base64Path::Avx512: return false;
+    case Base64Path::Avx512:
+      return false;
 #endif
   }
   return false;

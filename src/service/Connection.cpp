@@ -22,9 +22,12 @@ HttpFailure Connection::open(const std::vector<SocketAddress>& addresses, const 
   using Phase = HttpFailure::Phase;
   ConnectRace race(addresses);
   switch (race.run(deadline)) {
-    case WaitOutcome::Stopped: return {Phase::Stopped, ECANCELED, u"stopped"_s};
-    case WaitOutcome::Expired: return {Phase::TimedOut, -1, u"connecting to %1 took too long"_s.arg(peer)};
-    case WaitOutcome::Ready: break;
+    case WaitOutcome::Stopped:
+      return {Phase::Stopped, ECANCELED, u"stopped"_s};
+    case WaitOutcome::Expired:
+      return {Phase::TimedOut, -1, u"connecting to %1 took too long"_s.arg(peer)};
+    case WaitOutcome::Ready:
+      break;
   }
   m_socket = race.takeWinner();
   if (m_socket < 0) {
@@ -100,8 +103,10 @@ Connection::Outcome Connection::tlsOutcome(int result, size_t bytes, bool writin
       if (m_sendFailed && writing) return {Io::Broken, 0};
       m_readWantsOutput = !writing && !m_sendFailed;
       return {Io::Again, 0};
-    case SSL_ERROR_ZERO_RETURN: return {Io::Closed, 0};
-    default: break;
+    case SSL_ERROR_ZERO_RETURN:
+      return {Io::Closed, 0};
+    default:
+      break;
   }
   if (m_peerClosed) return {Io::CutOff, 0};
   if (const unsigned long code = ERR_peek_error(); code != 0 && ERR_GET_LIB(code) == ERR_LIB_SSL) {
@@ -144,8 +149,10 @@ int Connection::bioRead(bio_st* bio, char* buffer, int size) {
   BIO_clear_retry_flags(bio);
   const ssize_t count = self->receive(buffer, static_cast<size_t>(size));
   if (count >= 0) return static_cast<int>(count);
-  if (transient(errno)) BIO_set_retry_read(bio);
-  else self->m_lastError = errno;
+  if (transient(errno))
+    BIO_set_retry_read(bio);
+  else
+    self->m_lastError = errno;
   return -1;
 }
 
@@ -164,9 +171,12 @@ int Connection::bioWrite(bio_st* bio, const char* data, int size) {
 
 long Connection::bioControl(bio_st* bio, int command, long, void*) {
   switch (command) {
-    case BIO_CTRL_FLUSH: return 1;
-    case BIO_CTRL_EOF: return static_cast<Connection*>(BIO_get_data(bio))->m_peerClosed;
-    default: return 0;
+    case BIO_CTRL_FLUSH:
+      return 1;
+    case BIO_CTRL_EOF:
+      return static_cast<Connection*>(BIO_get_data(bio))->m_peerClosed;
+    default:
+      return 0;
   }
 }
 
@@ -215,9 +225,12 @@ HttpFailure Connection::handshake(const QString& peer, Deadline deadline) {
       return {Phase::Tls, m_lastError, u"no TLS connection to %1: %2"_s.arg(peer, words)};
     }
     switch (wait(m_readWantsOutput, deadline)) {
-      case WaitOutcome::Stopped: return {Phase::Stopped, ECANCELED, u"stopped"_s};
-      case WaitOutcome::Expired: return {Phase::TimedOut, -1, u"%1 did not answer in the TLS handshake"_s.arg(peer)};
-      case WaitOutcome::Ready: break;
+      case WaitOutcome::Stopped:
+        return {Phase::Stopped, ECANCELED, u"stopped"_s};
+      case WaitOutcome::Expired:
+        return {Phase::TimedOut, -1, u"%1 did not answer in the TLS handshake"_s.arg(peer)};
+      case WaitOutcome::Ready:
+        break;
     }
   }
 }

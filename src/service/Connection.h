@@ -67,10 +67,10 @@ class Connection {
   int m_socket = -1;
   ssl_st* m_ssl = nullptr;
   QByteArray m_pushedBack;
-  int m_lastError = 0;         ///< errno, or OpenSSL's code if m_tlsError
+  int m_lastError = 0;  ///< errno, or OpenSSL's code if m_tlsError
   bool m_tlsError = false;
-  bool m_peerClosed = false;   ///< the socket has told the end of the stream
-  bool m_sendFailed = false;   ///< the socket takes no more; OpenSSL is told "not now" so that it can still read
+  bool m_peerClosed = false;  ///< the socket has told the end of the stream
+  bool m_sendFailed = false;  ///< the socket takes no more; OpenSSL is told "not now" so that it can still read
   bool m_readWantsOutput = false;
   bool m_writeWantsInput = false;
 };

@@ -6,18 +6,18 @@
 #include "service/VantryUtil.h"
 
 // Both envelopes begin so.
-#define ENVELOPE_BEGIN                                                                                        \
-  "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"                                                              \
-  "<SOAP-ENV:Envelope xmlns:SOAP-ENV=\"http://schemas.xmlsoap.org/soap/envelope/\"  "                         \
-  "xmlns:xsd=\"http://www.w3.org/2001/XMLSchema\" "                                                           \
-  "xmlns:SOAP-ENC=\"http://schemas.xmlsoap.org/soap/encoding/\" "                                             \
-  "SOAP-ENV:encodingStyle=\"http://schemas.xmlsoap.org/soap/encoding/\">\n"                                   \
-  "<SOAP-ENV:Header>\n"                                                                                       \
-  "\t<Authenticate>\n"                                                                                        \
-  "\t\t<Username>[login]</Username>\n"                                                                        \
-  "\t\t<Password>[password]</Password>\n"                                                                     \
-  "\t</Authenticate>\n"                                                                                       \
-  "</SOAP-ENV:Header>\n"                                                                                      \
+#define ENVELOPE_BEGIN                                                                \
+  "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"                                      \
+  "<SOAP-ENV:Envelope xmlns:SOAP-ENV=\"http://schemas.xmlsoap.org/soap/envelope/\"  " \
+  "xmlns:xsd=\"http://www.w3.org/2001/XMLSchema\" "                                   \
+  "xmlns:SOAP-ENC=\"http://schemas.xmlsoap.org/soap/encoding/\" "                     \
+  "SOAP-ENV:encodingStyle=\"http://schemas.xmlsoap.org/soap/encoding/\">\n"           \
+  "<SOAP-ENV:Header>\n"                                                               \
+  "\t<Authenticate>\n"                                                                \
+  "\t\t<Username>[login]</Username>\n"                                                \
+  "\t\t<Password>[password]</Password>\n"                                             \
+  "\t</Authenticate>\n"                                                               \
+  "</SOAP-ENV:Header>\n"                                                              \
   "<SOAP-ENV:Body>\n"
 
 QByteArray VantryUtil::soapTemplate() {
@@ -63,10 +63,18 @@ QByteArray Envelope::escaped(const QString& text) {
   QByteArray result;
   for (const char c : text.toUtf8()) {
     switch (c) {
-      case '&': result += "&amp;"; break;
-      case '<': result += "&lt;"; break;
-      case '>': result += "&gt;"; break;
-      default: result += c; break;
+      case '&':
+        result += "&amp;";
+        break;
+      case '<':
+        result += "&lt;";
+        break;
+      case '>':
+        result += "&gt;";
+        break;
+      default:
+        result += c;
+        break;
     }
   }
   return result;

@@ -69,8 +69,8 @@ class HTTPSocket {
 
   /// Posts and gives the reply's body as it came, whatever its status; a part of it, or nothing, when the exchange
   /// failed; failure() then tells why. A reply that came before the request was out, or in the place of a tunnel from
-  /// a proxy, is given too, with that failure. `timeoutMs` bounds the time until the connection stands, then the time from there to the first body
-  /// byte, then each silence of the body. Sending is no sign of life.
+  /// a proxy, is given too, with that failure. `timeoutMs` bounds the time until the connection stands, then the time
+  /// from there to the first body byte, then each silence of the body. Sending is no sign of life.
   [[nodiscard]] QByteArray Post(const QString& url, int timeoutMs);
   /// The same with GET and without content.
   [[nodiscard]] QByteArray Get(const QString& url, int timeoutMs);

@@ -32,9 +32,7 @@ QByteArray requestHead(const HttpRequest& request, const Url& url) {
   return head + "\r\n";
 }
 
-bool HttpExchange::usesProxy() const {
-  return !m_request.proxyAddress.trimmed().isEmpty() && m_request.proxyPort > 0;
-}
+bool HttpExchange::usesProxy() const { return !m_request.proxyAddress.trimmed().isEmpty() && m_request.proxyPort > 0; }
 
 QString HttpExchange::proxyAuthority() const {
   return hostAndPort(m_request.proxyAddress.trimmed(), m_request.proxyPort);
@@ -47,9 +45,7 @@ bool HttpExchange::take(const HttpFailure& failure) {
   return false;
 }
 
-bool HttpExchange::fail(Phase phase, int code, const QString& detail) {
-  return take({phase, code, detail});
-}
+bool HttpExchange::fail(Phase phase, int code, const QString& detail) { return take({phase, code, detail}); }
 
 void HttpExchange::extendDeadline() {
   m_deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(m_request.timeoutMs);
@@ -104,17 +100,21 @@ bool HttpExchange::openTunnel() {
   for (;;) {
     if (!left.isEmpty()) {
       const Connection::Outcome sent = m_connection.write(left.constData(), left.size());
-      if (sent.io == Connection::Io::Progress) left.remove(0, sent.bytes);
-      else if (sent.io != Connection::Io::Again) left.clear();  // its answer, or its end, is still to be read
+      if (sent.io == Connection::Io::Progress)
+        left.remove(0, sent.bytes);
+      else if (sent.io != Connection::Io::Again)
+        left.clear();  // its answer, or its end, is still to be read
     }
     std::array<char, ReadSize> buffer;
     const Connection::Outcome outcome = m_connection.read(buffer.data(), buffer.size());
     if (outcome.io == Connection::Io::Progress) {
       switch (reader.feed(QByteArrayView(buffer.data(), outcome.bytes))) {
-        case HeadReader::State::Incomplete: break;
+        case HeadReader::State::Incomplete:
+          break;
         case HeadReader::State::TooLarge:
           return fail(Phase::TooLarge, EMSGSIZE, u"the reply of %1 is too large"_s.arg(m_peer));
-        case HeadReader::State::Complete: return takeTunnelAnswer(reader);
+        case HeadReader::State::Complete:
+          return takeTunnelAnswer(reader);
       }
     } else if (outcome.io == Connection::Io::Again) {
       if (!waitForPeer(!left.isEmpty())) return false;
@@ -148,16 +148,21 @@ bool HttpExchange::startTls() {
 HttpFailure HttpExchange::timeOut() const {
   const double seconds = m_request.timeoutMs / 1000.0;
   QString words = u"%1 did not answer within %2 s"_s;
-  if (m_sending && !m_writesFailed) words = u"%1 did not take the whole request within %2 s"_s;
-  else if (m_parser && m_parser->bodyBytes() > 0) words = u"%1 fell silent in its reply for %2 s"_s;
+  if (m_sending && !m_writesFailed)
+    words = u"%1 did not take the whole request within %2 s"_s;
+  else if (m_parser && m_parser->bodyBytes() > 0)
+    words = u"%1 fell silent in its reply for %2 s"_s;
   return {Phase::TimedOut, -1, words.arg(m_peer).arg(seconds)};
 }
 
 bool HttpExchange::waitForPeer(bool writing) {
   switch (m_connection.wait(writing, m_deadline)) {
-    case WaitOutcome::Ready: return true;
-    case WaitOutcome::Stopped: return fail(Phase::Stopped, ECANCELED, u"stopped"_s);
-    case WaitOutcome::Expired: break;
+    case WaitOutcome::Ready:
+      return true;
+    case WaitOutcome::Stopped:
+      return fail(Phase::Stopped, ECANCELED, u"stopped"_s);
+    case WaitOutcome::Expired:
+      break;
   }
   return take(timeOut());
 }
@@ -205,7 +210,8 @@ bool HttpExchange::readReply() {
 void HttpExchange::judgeReply(ReplyParser::State state) {
   switch (state) {
     case ReplyParser::State::Head:
-    case ReplyParser::State::Body: return;
+    case ReplyParser::State::Body:
+      return;
     case ReplyParser::State::Complete:
       m_over = true;
       if (m_sending) fail(Phase::Request, 0, u"%1 answered before it had the whole request"_s.arg(m_peer));
@@ -254,7 +260,9 @@ bool HttpExchange::sendMore() {
   if (m_outputSent < m_output.size()) return true;
   m_output.resize(0);
   m_outputSent = 0;
-  if (m_contentLeft == 0) m_sending = false;
-  else (void)nextPiece();
+  if (m_contentLeft == 0)
+    m_sending = false;
+  else
+    (void)nextPiece();
   return true;
 }

@@ -106,10 +106,12 @@ NameLookupResult lookUpName(const QString& host, int port, const QString& peer, 
   }
   pollfd descriptors[] = {{query->finished, POLLIN, 0}};
   switch (waitFor(descriptors, deadline)) {
-    case WaitOutcome::Stopped: return failed(Phase::Stopped, ECANCELED, u"stopped"_s);
+    case WaitOutcome::Stopped:
+      return failed(Phase::Stopped, ECANCELED, u"stopped"_s);
     case WaitOutcome::Expired:
       return failed(Phase::TimedOut, -1, u"the look-up of the name of %1 took too long"_s.arg(peer));
-    case WaitOutcome::Ready: break;
+    case WaitOutcome::Ready:
+      break;
   }
   const std::lock_guard lock(query->mutex);
   if (query->answer.code != 0) {

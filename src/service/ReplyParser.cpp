@@ -93,18 +93,24 @@ static AnnouncedLength announcedLength(const InternetHeaders& headers) {
 
 ReplyParser::State ReplyParser::feed(QByteArrayView bytes) {
   switch (m_state) {
-    case State::Head: break;
-    case State::Body: return append(bytes);
+    case State::Head:
+      break;
+    case State::Body:
+      return append(bytes);
     case State::Complete:
     case State::TooLarge:
-    case State::BadLength: return m_state;
+    case State::BadLength:
+      return m_state;
   }
   QByteArray behindInterim;
   for (;;) {
     switch (m_reader.feed(bytes)) {
-      case HeadReader::State::Incomplete: return m_state;
-      case HeadReader::State::TooLarge: return m_state = State::TooLarge;
-      case HeadReader::State::Complete: break;
+      case HeadReader::State::Incomplete:
+        return m_state;
+      case HeadReader::State::TooLarge:
+        return m_state = State::TooLarge;
+      case HeadReader::State::Complete:
+        break;
     }
     const int status = m_reader.status();
     if (status < 100 || status >= 200 || status == 101) return beginBody();

@@ -26,7 +26,7 @@ static void setEnvelope(FileSource& source, const QString& filename, const QStri
 }
 
 /// What the source met with the file, as the failure of the exchange.
-static void takeFileState(const FileSourceState& state, SendFileWatch& watch) {
+static void takeFileState(const FileSourceState& state, VantryUtil::SendFileWatch& watch) {
   watch.fileChanged = state.changed;
   if (state.failure.ok()) return;
   const QString words = state.changed ? u"the file changed before it was sent whole"_s : state.failure.message();

@@ -14,12 +14,17 @@ static QVariant numberWithItsDigits(const QString& digits) {
 
 static QVariant toVariant(const JSONItem& item) {
   switch (item.kind()) {
-    case JSONItem::Kind::Null: return QVariant::fromValue(nullptr);
-    case JSONItem::Kind::Boolean: return item.toBoolean();
-    case JSONItem::Kind::Number: return numberWithItsDigits(item.toText());
-    case JSONItem::Kind::Text: return item.toText();
+    case JSONItem::Kind::Null:
+      return QVariant::fromValue(nullptr);
+    case JSONItem::Kind::Boolean:
+      return item.toBoolean();
+    case JSONItem::Kind::Number:
+      return numberWithItsDigits(item.toText());
+    case JSONItem::Kind::Text:
+      return item.toText();
     case JSONItem::Kind::Array:
-    case JSONItem::Kind::Object: return QVariant::fromValue(item);
+    case JSONItem::Kind::Object:
+      return QVariant::fromValue(item);
   }
   return {};
 }

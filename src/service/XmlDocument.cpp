@@ -34,15 +34,19 @@ std::optional<XmlDocument> XmlDocument::parse(const QByteArray& text) {
         flushText();
         open.pop_back();
         break;
-      case QXmlStreamReader::Characters: pendingText += reader.text(); break;
+      case QXmlStreamReader::Characters:
+        pendingText += reader.text();
+        break;
       case QXmlStreamReader::DTD:
-      case QXmlStreamReader::EntityReference: return std::nullopt;
+      case QXmlStreamReader::EntityReference:
+        return std::nullopt;
       case QXmlStreamReader::NoToken:
       case QXmlStreamReader::Invalid:
       case QXmlStreamReader::StartDocument:
       case QXmlStreamReader::EndDocument:
       case QXmlStreamReader::Comment:
-      case QXmlStreamReader::ProcessingInstruction: break;
+      case QXmlStreamReader::ProcessingInstruction:
+        break;
     }
   }
   if (reader.hasError()) return std::nullopt;
