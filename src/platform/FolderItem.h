@@ -4,6 +4,7 @@
 // "No item" is an empty std::optional<FolderItem>.
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QList>
 #include <QString>
 #include <optional>
@@ -17,7 +18,8 @@ class FolderItem {
   static std::optional<FolderItem> fromNativePath(const QString& path);
   static std::optional<FolderItem> fromBytes(const QByteArray& path);
 
-  /// The item of that name inside this folder, existing or not. A '/' or NUL in the name is replaced by '_'.
+  /// The item of that name inside this folder, existing or not. A '/', NUL or half surrogate pair in the name is
+  /// replaced by '_', and so is a name that would lead elsewhere: empty, "." or "..".
   [[nodiscard]] FolderItem Child(const QString& name) const;
   [[nodiscard]] FolderItem ChildBytes(const QByteArray& name) const;
   [[nodiscard]] FolderItem Parent() const;
@@ -26,16 +28,19 @@ class FolderItem {
 
   [[nodiscard]] bool Exists() const;  ///< follows links; a broken or looping link doesn't exist
   [[nodiscard]] bool Directory() const;
-  [[nodiscard]] bool Visible() const;  ///< false for a name that begins with a dot
-  [[nodiscard]] bool IsReadable() const;
-  [[nodiscard]] bool IsWriteable() const;
-  [[nodiscard]] qint64 Length() const;  ///< bytes; 0 if it doesn't exist
-  [[nodiscard]] Date ModificationDate() const;
+  [[nodiscard]] bool Visible() const;           ///< false for a name that begins with a dot
+  [[nodiscard]] bool IsReadable() const;        ///< for a folder: listed and entered
+  [[nodiscard]] bool IsWriteable() const;       ///< for a folder: files can be made in it
+  [[nodiscard]] qint64 Length() const;          ///< bytes; 0 if it doesn't exist
+  [[nodiscard]] Date ModificationDate() const;  ///< 1970-01-01 if it doesn't exist
 
   /// The last component for display: bytes that are not UTF-8 show as U+FFFD.
   [[nodiscard]] QString Name() const;
+  /// The last component as it stands on the disk; empty for the root.
+  [[nodiscard]] QByteArray nameBytes() const;
   /// Renames a file that exists (never over another one: EEXIST), and only changes the handle of one that doesn't.
   IoResult setName(const QString& name);
+  /// The path for display and for settings; bytes that are not UTF-8 show as U+FFFD and don't lead back to the file.
   [[nodiscard]] QString NativePath() const;
   [[nodiscard]] const QByteArray& bytes() const { return m_path; }
 
@@ -48,3 +53,6 @@ class FolderItem {
   explicit FolderItem(QByteArray path) : m_path(std::move(path)) {}
   QByteArray m_path;
 };
+
+/// Order of file names: below 0, 0 or above 0. Case-insensitive, ties by exact bytes.
+[[nodiscard]] int compareFileNames(QByteArrayView a, QByteArrayView b);

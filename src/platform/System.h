@@ -20,5 +20,6 @@ struct MountRequest {
   bool threaded = false;
 };
 
-/// Mounts a share without asking anybody, blocking. Gives the mount point, or the empty string and an errno.
+/// Mounts a share without asking anybody, blocking. Gives the mount point, or the empty string and an errno. On this
+/// system nothing mounts shares for a program without rights yet: every call gives the empty string and ENOTSUP.
 [[nodiscard]] QString mountShare(const MountRequest& request, int& errorCode);

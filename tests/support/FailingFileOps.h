@@ -7,12 +7,14 @@
 
 class FailingFileOps : public FileOps {
  public:
-  int failAtCall = -1;     ///< index, from 0, of the call that fails; -1 for none
+  int failAtCall = -1;       ///< index, from 0, of the call that fails; -1 for none
   long bytesUntilFull = -1;  ///< bytes that can still be written; -1 for no bound
   int errnoValue = ENOSPC;
   int calls = 0;
 
-  int open(const char* path, int flags, mode_t mode) override { return fails() ? -1 : FileOps::open(path, flags, mode); }
+  int open(const char* path, int flags, mode_t mode) override {
+    return fails() ? -1 : FileOps::open(path, flags, mode);
+  }
   ssize_t read(int fd, void* buffer, size_t size) override { return fails() ? -1 : FileOps::read(fd, buffer, size); }
   ssize_t write(int fd, const void* buffer, size_t size) override {
     if (fails()) return -1;
@@ -22,6 +24,16 @@ class FailingFileOps : public FileOps {
       bytesUntilFull -= static_cast<long>(size);
     }
     return FileOps::write(fd, buffer, size);
+  }
+  ssize_t copyRange(int from, int to, size_t size) override {
+    if (fails()) return -1;
+    if (bytesUntilFull >= 0) {
+      if (bytesUntilFull == 0) return refuse();
+      if (static_cast<long>(size) > bytesUntilFull) size = static_cast<size_t>(bytesUntilFull);
+    }
+    const ssize_t done = FileOps::copyRange(from, to, size);
+    if (bytesUntilFull >= 0 && done > 0) bytesUntilFull -= static_cast<long>(done);
+    return done;
   }
   int sync(int fd) override { return fails() ? -1 : FileOps::sync(fd); }
   int close(int fd) override {

@@ -1,0 +1,103 @@
+#include "platform/FolderScan.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <memory>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Big enough that a folder of 100,000 short names takes some fifteen calls.
+constexpr size_t kBufferSize = 256 * 1024;
+
+class OpenFolder {
+ public:
+  explicit OpenFolder(const FolderItem& folder)
+      : m_fd(::open(folder.bytes().constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {}
+  ~OpenFolder() {
+    if (m_fd >= 0) ::close(m_fd);
+  }
+  OpenFolder(const OpenFolder&) = delete;
+  OpenFolder& operator=(const OpenFolder&) = delete;
+  [[nodiscard]] int fd() const { return m_fd; }
+
+ private:
+  int m_fd;
+};
+
+bool canBePlainFile(unsigned char type) { return type == DT_REG || type == DT_LNK || type == DT_UNKNOWN; }
+
+// What says that this one file is gone or not ours to read, and nothing about the folder.
+bool concernsFileAlone(int error) {
+  return error == ENOENT || error == ENOTDIR || error == ELOOP || error == EACCES || error == ENAMETOOLONG;
+}
+
+class Scan {
+ public:
+  Scan(const FolderItem& folder, const FolderScanRules& rules) : m_folder(folder), m_rules(rules), m_open(folder) {}
+
+  FolderScanResult run() {
+    if (m_open.fd() < 0) fail(errno);
+    const auto buffer = std::make_unique_for_overwrite<char[]>(kBufferSize);
+    while (m_result.result.ok()) {
+      const ssize_t filled = ::getdents64(m_open.fd(), buffer.get(), kBufferSize);
+      if (filled < 0) fail(errno);
+      if (filled <= 0) break;
+      if (!takeEntries(buffer.get(), filled)) break;
+    }
+    std::sort(m_result.files.begin(), m_result.files.end(),
+              [](const ScannedFile& a, const ScannedFile& b) { return compareFileNames(a.name, b.name) < 0; });
+    return std::move(m_result);
+  }
+
+ private:
+  void fail(int error) {
+    if (m_result.result.ok()) m_result.result = IoResult::failure(error, u"listing "_s + m_folder.NativePath());
+  }
+
+  bool takeEntries(const char* entries, ssize_t filled) {
+    for (ssize_t at = 0; at < filled;) {
+      const auto* entry = reinterpret_cast<const dirent64*>(entries + at);
+      at += entry->d_reclen;
+      if (m_rules.stopRequested && m_rules.stopRequested()) {
+        fail(ECANCELED);
+        return false;
+      }
+      if (entry->d_name[0] == '.' || !canBePlainFile(entry->d_type)) continue;
+      if (m_rules.nameWanted && !m_rules.nameWanted(QByteArrayView(entry->d_name))) continue;
+      takeFile(entry->d_name);
+    }
+    return true;
+  }
+
+  void takeFile(const char* name) {
+    struct stat info {};
+    if (::fstatat(m_open.fd(), name, &info, 0) != 0) {
+      // A file that a share fails to tell about may be due: the caller must not take the list for whole.
+      if (!concernsFileAlone(errno)) fail(errno);
+      return;
+    }
+    if (!S_ISREG(info.st_mode) || info.st_size <= 0) return;
+    const qint64 mtimeNs = qint64{info.st_mtim.tv_sec} * 1'000'000'000 + info.st_mtim.tv_nsec;
+    if (m_rules.dateWanted && !m_rules.dateWanted(mtimeNs)) return;
+    if (::faccessat(m_open.fd(), name, R_OK, AT_EACCESS) != 0) return;
+    m_result.files.push_back({QByteArray(name), {qint64{info.st_size}, mtimeNs}});
+  }
+
+  const FolderItem& m_folder;
+  const FolderScanRules& m_rules;
+  OpenFolder m_open;
+  FolderScanResult m_result;
+};
+
+}  // namespace
+
+FolderScanResult scanFolder(const FolderItem& folder, const FolderScanRules& rules) {
+  return Scan(folder, rules).run();
+}
