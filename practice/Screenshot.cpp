@@ -20,7 +20,7 @@ QRect occupiedPart(const QImage& screen) {
 }
 
 QString saveScreenshot(const QString& file) {
-  const QScreen* screen = QGuiApplication::primaryScreen();
+  QScreen* screen = QGuiApplication::primaryScreen();
   const QImage image = screen ? screen->grabWindow(0).toImage() : QImage();
   const QRect part = occupiedPart(image);
   if (part.isEmpty()) return u"The screen is empty: no window to take a picture of."_s;
