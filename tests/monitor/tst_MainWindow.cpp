@@ -266,5 +266,5 @@ class tst_MainWindow : public QObject {
   }
 };
 
-VANTRY_TEST(tst_MainWindow)
+VANTRY_TEST(tst_MainWindow);
 #include "tst_MainWindow.moc"

@@ -92,7 +92,7 @@ class tst_MainWindowLife : public QObject {
 
   void closingAsks() {
     WindowFixture fixture;
-    UploaderTask::TaskDirectory();
+    (void)UploaderTask::TaskDirectory();  // makes the folder
     const QString marked = fixture.home.writeFile(u"data/vantry-uploader/Uploader Tasks/x.del"_s, "x");
     fixture.window().show();
     const Answer no(QMessageBox::No);
@@ -123,5 +123,5 @@ class tst_MainWindowLife : public QObject {
   }
 };
 
-VANTRY_TEST(tst_MainWindowLife)
+VANTRY_TEST(tst_MainWindowLife);
 #include "tst_MainWindowLife.moc"

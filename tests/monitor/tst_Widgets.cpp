@@ -93,5 +93,5 @@ class tst_Widgets : public QObject {
   }
 };
 
-VANTRY_TEST(tst_Widgets)
+VANTRY_TEST(tst_Widgets);
 #include "tst_Widgets.moc"
