@@ -74,8 +74,7 @@ class tst_MainWindowLife : public QObject {
     WindowFixture fixture;
     auto* const ticks = fixture.control<QTimer>("StatusRefresher");
     QCOMPARE(ticks->interval(), 4000);
-    WindowFixture::storeTask(u"A"_s, u"a.vnt"_s);
-    UploaderTask::Load();
+    WindowFixture::loadOneTask();
     fixture.window().ListTasks();
     const auto picture = [&fixture] {
       return fixture.list()->model()->index(0, 0).data(TaskListModel::CellTagRole).toInt();
