@@ -47,8 +47,10 @@ struct StoredIdentity {
   ServerIdentity server;
   QString error;  ///< in words; empty when all went well
 };
-/// Reads ca.pem, server.pem and server.key (0600) from a folder, or makes them, and the folder (0700), if they are
-/// missing or end within a week. The authority's key is dropped, so nobody can sign with it again.
+/// Makes a new authority and identity and writes ca.pem, server.pem and server.key (0600) into a folder, which is made
+/// private to the user. The authority's key is dropped, so nobody can sign with it again.
+[[nodiscard]] StoredIdentity make(const QString& folder, Flaw flaw = Flaw::None);
+/// Reads what make() wrote, or makes it anew if it is missing, doesn't fit together or ends within a week.
 [[nodiscard]] StoredIdentity ensure(const QString& folder);
 
 }  // namespace Certificates

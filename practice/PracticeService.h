@@ -17,8 +17,8 @@ struct PracticeReceipt {
   QString name;
   QString kind;  ///< "print" or "instrument"
   QString destination;
-  qint64 size = 0;     ///< decoded bytes
-  QByteArray sha256;   ///< of the decoded bytes, 64 lower-case hexadecimal digits
+  qint64 size = 0;    ///< decoded bytes
+  QByteArray sha256;  ///< of the decoded bytes, 64 lower-case hexadecimal digits
   QString login;
   QByteArray content;  ///< the decoded bytes, while they are no more than Options::keepBytes
   QString storedAs;    ///< path of the stored file; empty without a store folder
@@ -30,7 +30,7 @@ struct PracticeRequest {
   /// The body as it came while it is no more than Options::keepBytes; above that the content of Base64string is left
   /// out, so that it is the envelope around the file.
   QByteArray body;
-  qint64 bodyBytes = 0;  ///< that arrived
+  qint64 bodyBytes = 0;   ///< that arrived
   bool complete = false;  ///< the whole body arrived
   QByteArray method;      ///< the element in the SOAP body, without prefix; empty while unknown
   QString login;
@@ -45,12 +45,12 @@ class PracticeService {
     QString password = QStringLiteral("gray-balance-21");  ///< in clear; the wire carries its SHA-256
     QString tlsFolder;    ///< for certificate and key, kept from run to run; empty: a temporary one
     QString storeFolder;  ///< for the received files and receipts.jsonl; empty: nothing is written
-    Certificates::Flaw certificateFlaw = Certificates::Flaw::None;
-    qint64 keepBytes = 4 << 20;   ///< what a receipt or request keeps in memory, see there
-    int receiveBufferBytes = 0;   ///< of the sockets (SO_RCVBUF), to let a sender feel a stop early; 0: the system's
-    QString apiUrl;               ///< what Get_API_URL answers; empty: the service's own https address
-    bool jsonSuccess = false;     ///< files are confirmed by a JSON object instead of a plain text
-    QList<int> onlyTls;           ///< {12} or {13} offers that TLS version alone; empty: both
+    Certificates::Flaw certificateFlaw = Certificates::Flaw::None;  ///< a flawed one is never put into tlsFolder
+    qint64 keepBytes = 4 << 20;  ///< what a receipt or request keeps in memory, see there
+    int receiveBufferBytes = 0;  ///< of the sockets (SO_RCVBUF), to let a sender feel a stop early; 0: the system's
+    QString apiUrl;              ///< what Get_API_URL answers; empty: the service's own https address
+    bool jsonSuccess = false;    ///< files are confirmed by a JSON object instead of a plain text
+    QList<int> onlyTls;          ///< {12} or {13} offers that TLS version alone; empty: both
   };
 
   PracticeService();

@@ -19,7 +19,7 @@ class PracticeSink {
   void stop();
   [[nodiscard]] quint16 port() const;
   [[nodiscard]] QString errorString() const;
-  [[nodiscard]] QString url() const;     ///< https://localhost:<port>/api
+  [[nodiscard]] QString url() const;  ///< https://localhost:<port>/api
   [[nodiscard]] QString caFile() const;
 
   [[nodiscard]] int requests() const;         ///< answered
