@@ -65,6 +65,5 @@ void VTUploaderMainWIndow::ShowLogbutton_Action() {
 
 void VTUploaderMainWIndow::HelpButton_MouseUp() {
   const QString address = u"https://%1/other_tools/en/manual/uploader"_s.arg(QString::fromUtf8(ManualHost));
-  if (!QDesktopServices::openUrl(QUrl(address)))
-    say(fillPlaceholders(MonitorText::klManualNotOpened(), {address}));
+  if (!QDesktopServices::openUrl(QUrl(address))) say(fillPlaceholders(MonitorText::klManualNotOpened(), {address}));
 }

@@ -38,6 +38,8 @@ int TaskListView::ListIndex() const {
 void TaskListView::keyPressEvent(QKeyEvent* event) {
   // Qt makes the first row current without selecting it; an arrow would then pass over it.
   const bool arrow = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
-  if (arrow && ListIndex() < 0 && currentIndex().isValid()) setCurrentIndex(currentIndex());
-  else QTreeView::keyPressEvent(event);
+  if (arrow && ListIndex() < 0 && currentIndex().isValid())
+    setCurrentIndex(currentIndex());
+  else
+    QTreeView::keyPressEvent(event);
 }

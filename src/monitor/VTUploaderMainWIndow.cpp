@@ -80,8 +80,8 @@ void VTUploaderMainWIndow::buildControls() {
 }
 
 void VTUploaderMainWIndow::buildKeys() {
-  QWidget* const order[] = {HelpButton, TaskList, NewButton, EditButton, DuplicateButton, RemoveButton, AdminButton,
-                            ShowLogbutton};
+  QWidget* const order[] = {HelpButton,      TaskList,     NewButton,   EditButton,
+                            DuplicateButton, RemoveButton, AdminButton, ShowLogbutton};
   for (size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
   TaskList->setFocus();
 

@@ -69,9 +69,7 @@ class tst_MainWindow : public QObject {
       headings << list->model()->headerData(i, Qt::Horizontal).toString();
     QCOMPARE(headings, (QStringList{u"Status"_s, u"Task Name"_s, u"Task Description"_s, u"Files"_s}));
     QCOMPARE(list->visualRect(list->model()->index(0, 0)).height(), 24);
-    const auto widths = [list] {
-      return QList<int>{list->columnWidth(0), list->columnWidth(1), list->columnWidth(3)};
-    };
+    const auto widths = [list] { return QList<int>{list->columnWidth(0), list->columnWidth(1), list->columnWidth(3)}; };
     const int description = list->columnWidth(2);
     QCOMPARE(widths(), (QList<int>{53, 150, 54}));
     fixture.window().resize(850, 450);
