@@ -4,8 +4,10 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QProcess>
+#include <QFile>
 #include <QTest>
+#include <csignal>
+#include <cstdio>
 
 #include "Sql.h"
 #include "storage/LogDatabase.h"
@@ -35,10 +37,20 @@ static LogDatabase::OpenResult openAndJudge(const TemporaryHome& home, const QBy
   return log;
 }
 
-static qint64 largestId(const QByteArray& output) {
-  qint64 largest = 0;
-  for (const QByteArray& line : output.split('\n')) largest = std::max(largest, line.toLongLong());
-  return largest;
+/// The output of a writer of rows, in a process of its own that is killed once it has told of `lines` rows.
+static QByteArrayList runWriter(const TemporaryHome& home, int lines, const char* largestFile = "") {
+  // Not QProcess: after its vfork the thread sanitizer takes this process for the child.
+  const QString program = u"exec '%1' --write-log '%2' %3"_s.arg(
+      QCoreApplication::applicationFilePath(), home.path(u"log.db"_s), QString::fromLatin1(largestFile));
+  FILE* writer = popen(QFile::encodeName(program).constData(), "re");
+  char line[1000];
+  const int pid = fgets(line, sizeof line, writer) ? QByteArray(line).trimmed().toInt() : 0;
+  QByteArrayList output;
+  while (output.size() < lines && fgets(line, sizeof line, writer)) output << QByteArray(line).trimmed();
+  if (pid > 0) kill(pid, SIGKILL);
+  while (fgets(line, sizeof line, writer)) output << QByteArray(line).trimmed();
+  pclose(writer);
+  return output;
 }
 
 static void judgeRowsOf(const TemporaryHome& home, qint64 told) {
@@ -141,26 +153,20 @@ class tst_LogDatabaseFaults : public QObject {
 
   void aFullDiskLosesRowsAndNothingElse() {
     const TemporaryHome home;
-    QProcess writer;
-    writer.start(QCoreApplication::applicationFilePath(), {u"--write-log"_s, home.path(u"log.db"_s), u"200000"_s});
-    QVERIFY(writer.waitForFinished() && writer.exitStatus() == QProcess::NormalExit);
-    const QByteArray output = writer.readAllStandardOutput();
-    QVERIFY2(output.contains("log.db: "), "the writer ended without a word");
-    judgeRowsOf(home, largestId(output));
+    const QByteArrayList output = runWriter(home, 100000, "200000");
+    QVERIFY2(output.value(output.size() - 1).startsWith("log.db: "), "the writer ended without a word");
+    judgeRowsOf(home, output.value(output.size() - 2).toLongLong());
   }
 
   void aKilledWriterLosesNoRowThatItToldOf() {
     const TemporaryHome home;
     qint64 told = 0;
-    for (int round = 0; round < 5; ++round) {
-      QProcess writer;
-      writer.start(QCoreApplication::applicationFilePath(), {u"--write-log"_s, home.path(u"log.db"_s)});
-      // The last round kills while the log is opened and its old journal is taken in.
-      QVERIFY(round < 4 ? writer.waitForReadyRead(20000) : writer.waitForStarted());
-      writer.kill();
-      QVERIFY(writer.waitForFinished());
-      told = std::max(told, largestId(writer.readAllStandardOutput()));
+    for (int round = 0; round < 4; ++round) {
+      const QByteArrayList output = runWriter(home, 20);
+      told = output.value(output.size() - 1).toLongLong();
     }
+    // The last one is killed while it opens the log and takes the old journal in.
+    runWriter(home, 0);
     judgeRowsOf(home, told);
   }
 };
