@@ -190,7 +190,12 @@ class tst_Pipeline : public QObject {
     QCOMPARE(task->UploadedCount.load(), 0);
 
     bench.clock.advance(10);
+    task->updateStatus();
+    const auto look = task->lookAtInputFolder();
+    qInfo() << look.result.message() << look.files.due.size() << look.files.waiting.size() << task->dateLimit << bench.clock.now().TotalSeconds() << secondsOf(versionOf(*FolderItem::fromNativePath(path))->mtimeNs);
     EngineBench::process(*task);
+    for (const Problem& p : Problems::present()) qInfo() << int(p.kind) << p.subject << p.detail;
+    qInfo() << bench.notes() << bench.service.requests().size();
     QCOMPARE(bench.received(), QStringList{u"big.txt"_s});
     QVERIFY(bench.service.receipts().first().content.isEmpty() ||
             bench.service.receipts().first().content == TemporaryHome::readFile(path));

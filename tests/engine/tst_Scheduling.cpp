@@ -97,9 +97,8 @@ class tst_Scheduling : public QObject {
     const TaskPointer task = bench.makeTask();
     UploaderTask::addTask(task);
     bench.drop(u"a.txt"_s);
-    VantryUtil::LogEntry::setRowObserver([thrown = false](qint64) mutable {
-      if (!std::exchange(thrown, true)) throw std::runtime_error("planted");
-    });
+    // Also the row that tells of the exception meets it again: nothing may come of that.
+    VantryUtil::LogEntry::setRowObserver([](qint64) { throw std::runtime_error("planted"); });
     UploadThread::Enabled = true;
     UploadThread::Start();
     QTRY_COMPARE(bench.log().size(), 2);
@@ -109,10 +108,11 @@ class tst_Scheduling : public QObject {
     QCOMPARE(row[u"Notes"_s], u"Processing stopped: planted"_s);
     QCOMPARE(row[u"InputFolder"_s], task->inputFolderPath);
     QCOMPARE(row[u"OutputFolder"_s], task->outputFolderPath);
-    bench.clock.advance(4);
-    run();
-    QVERIFY(bench.received().size() >= 1);
-    QTRY_VERIFY(!UploadThread::ProcessingNow());
+    VantryUtil::LogEntry::setRowObserver({});
+    bench.clock.advance(100);
+    bench.drop(u"b.txt"_s);
+    UploadThread::Start();
+    QTRY_COMPARE(bench.notes().last(), u"Uploaded to Print Warden - Saved"_s);
   }
 
   void mounting_data() {

@@ -101,11 +101,16 @@ void tst_DictionaryFile::anEmptyKeyGivesPlainJson() {
 void tst_DictionaryFile::anyLineEndIsTaken_data() {
   QTest::addColumn<QByteArray>("lineEnd");
   QTest::addColumn<QByteArray>("last");
-  QTest::newRow("LF, and one at the end") << "\n"_ba << "\n"_ba;
-  QTest::newRow("CR LF") << "\r\n"_ba << ""_ba;
-  QTest::newRow("CR, and one at the end") << "\r"_ba << "\r"_ba;
-  QTest::newRow("none") << ""_ba << ""_ba;
-  QTest::newRow("an editor's blanks and empty lines") << " \t\n\n  "_ba << "\n \n"_ba;
+  QTest::newRow("LF, and one at the end") << "\n"_ba
+                                          << "\n"_ba;
+  QTest::newRow("CR LF") << "\r\n"_ba
+                         << ""_ba;
+  QTest::newRow("CR, and one at the end") << "\r"_ba
+                                          << "\r"_ba;
+  QTest::newRow("none") << ""_ba
+                        << ""_ba;
+  QTest::newRow("an editor's blanks and empty lines") << " \t\n\n  "_ba
+                                                      << "\n \n"_ba;
 }
 
 void tst_DictionaryFile::anyLineEndIsTaken() {
@@ -167,9 +172,7 @@ void tst_DictionaryFile::aValueOfAnotherTypeIsConverted() {
 void tst_DictionaryFile::whatIsNoDictionaryIsRefusedAndKept_data() {
   QTest::addColumn<QByteArray>("content");
   QTest::addColumn<QString>("special");
-  const auto row = [](const char* label, const QByteArray& content) {
-    QTest::newRow(label) << content << QString();
-  };
+  const auto row = [](const char* label, const QByteArray& content) { QTest::newRow(label) << content << QString(); };
   row("an empty file", "");
   row("nothing but a line end", "\n");
   row("plain JSON under a key", R"({"SoapPassword":"hush"})");
@@ -190,11 +193,16 @@ void tst_DictionaryFile::whatIsNoDictionaryIsRefusedAndKept() {
   const TemporaryHome home;
   const QByteArray path = QFile::encodeName(home.path(u"bad"_s));
   FolderItem bad = home.item(u"bad"_s);
-  if (special.isEmpty() || special == u"a path through a file") home.writeFile(u"bad"_s, content);
-  else if (special == u"a folder") home.makeFolder(u"bad"_s);
-  else if (special == u"a fifo") QCOMPARE(mkfifo(path.constData(), 0600), 0);
-  else if (special == u"a file of gigabytes") QVERIFY(QFile(home.writeFile(u"bad"_s, "A")).resize(5LL << 30));
-  else QCOMPARE(symlink(special.endsWith(u"nowhere") ? "gone" : path.constData(), path.constData()), 0);
+  if (special.isEmpty() || special == u"a path through a file")
+    home.writeFile(u"bad"_s, content);
+  else if (special == u"a folder")
+    home.makeFolder(u"bad"_s);
+  else if (special == u"a fifo")
+    QCOMPARE(mkfifo(path.constData(), 0600), 0);
+  else if (special == u"a file of gigabytes")
+    QVERIFY(QFile(home.writeFile(u"bad"_s, "A")).resize(5LL << 30));
+  else
+    QCOMPARE(symlink(special.endsWith(u"nowhere") ? "gone" : path.constData(), path.constData()), 0);
   if (special == u"a path through a file") bad = bad.Child(u"task.vnt"_s);
 
   struct stat before, after;

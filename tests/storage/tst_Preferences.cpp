@@ -38,7 +38,8 @@ class tst_Preferences : public QObject {
   }
   [[nodiscard]] static QString prefFile() { return fileInFolder(u"VTUploaderAdmin.pref"_s); }
   [[nodiscard]] static QStringList filesInFolder() {
-    return QDir(SpecialFolder::Preferences().NativePath()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    return QDir(SpecialFolder::Preferences().NativePath())
+        .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
   }
   [[nodiscard]] static QString detailOf(Problem::Kind kind);
   std::unique_ptr<TemporaryHome> m_home;
@@ -50,6 +51,7 @@ void tst_Preferences::init() {
 }
 
 void tst_Preferences::cleanup() {
+  m_home.reset();
   prefs.reset();
   setProxy({});
   DictionaryFile::setSolutionKey({});
@@ -122,7 +124,8 @@ void tst_Preferences::aDamagedFileIsSetAside_data() {
 void tst_Preferences::aDamagedFileIsSetAside() {
   QFETCH(QByteArray, content);
   QFETCH(qint64, size);
-  if (size < 0) QDir().mkpath(prefFile());
+  if (size < 0)
+    QDir().mkpath(prefFile());
   else {
     QDir().mkpath(SpecialFolder::Preferences().NativePath());
     QFile file(prefFile());
