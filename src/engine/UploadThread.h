@@ -2,8 +2,9 @@
 // The one background worker: each run walks the tasks, processes what is due, and ends when no task has work. The
 // thread sleeps between runs. Shared operations are safe from any thread.
 
-#include <QString>
 #include <atomic>
+
+#include "engine/EngineActivity.h"
 
 class UploadThread {
  public:
@@ -13,14 +14,13 @@ class UploadThread {
   /// Begins a run, on the thread that the first call makes; does nothing while one is under way.
   static void Start();
   [[nodiscard]] static bool ProcessingNow();
+  /// True from stop() on: loops of the upload thread end at their next test of it.
+  [[nodiscard]] static bool stopping();
   /// Breaks a transfer off and ends the thread; true if it ended within `timeoutMs`.
   static bool stop(int timeoutMs);
-};
+  /// Lets Start() work again after stop(), as in a new process; for tests.
+  static void allowAgain();
 
-/// What the engine is doing at this moment, for the window's foot strip.
-struct EngineActivity {
-  bool sending = false;
-  QString task, file;
-  qint64 sentBytes = 0, totalBytes = 0;  ///< of the file
+ private:
+  static void Event_Run();
 };
-[[nodiscard]] EngineActivity engineActivity();

@@ -6,14 +6,16 @@
 #include <QList>
 #include <QString>
 #include <atomic>
+#include <functional>
 #include <memory>
 #include <optional>
 
 #include "platform/FolderItem.h"
 #include "platform/IoResult.h"
 #include "platform/RegEx.h"
+#include "platform/System.h"
+#include "engine/BatchLedger.h"
 
-class Clock;
 class UploaderTask;
 using TaskPointer = std::shared_ptr<UploaderTask>;
 
@@ -22,6 +24,7 @@ class UploaderTask {
   enum StatusValue : qint64 { NotEvaluated = 0, Processing = 1, Ready = 2, Fault = 3 };
 
   UploaderTask() = default;
+  ~UploaderTask() = default;
   UploaderTask(const UploaderTask&) = delete;
   UploaderTask& operator=(const UploaderTask&) = delete;
 
@@ -42,20 +45,44 @@ class UploaderTask {
   /// The name under which a file goes to the service and into the output folder, at local time `now`.
   [[nodiscard]] QString Rename(const QString& name, const Date& now) const;
 
-  /// Files due by date limit and rules, in order of their names. Upload thread; blocks for the folder.
+  /// Files due by date limit and rules alone, in order of their names; a missing folder gives none. Blocks for the
+  /// folder: upload thread, or a task object of the caller's own.
   [[nodiscard]] QList<FolderItem> EvaluateInputFolder();
+  /// What a batch would send now: EvaluateInputFolder, seen through the ledger.
   [[nodiscard]] qint64 getFileCount();
   void getDateLimit();
-  /// Stores the limit in prefs, 0 for `clear`, otherwise `seconds`, and saves prefs. Any thread but main.
+  /// Stores the limit in prefs (0 and no ledger for `clear`, otherwise `seconds` and the ledger) and saves prefs.
+  /// Blocks for the disk. A save that fails raises Problem::PreferencesNotSaved; the limit then holds in memory.
   void updateDateLimit(bool clear, double seconds = 0);
 
+  /// One look at the input folder: the moment it began, and what is due and what still moves.
+  struct FolderLook {
+    IoResult result;  ///< a look that failed gives nothing due
+    Date began;
+    BatchLedger::Selection files;
+  };
+  /// Upload thread; blocks for the folder.
+  [[nodiscard]] FolderLook lookAtInputFolder();
+  [[nodiscard]] BatchLedger& ledger();
+
   // One pass, upload thread.
+  /// Rebuilds the folder handles, mounting where the task asks for it, and sets Status to Ready or Fault.
   void updateStatus();
+  /// Makes the handle of one side anew; mounts its share if the folder is missing, unless a pause runs.
   void TryAutoMount(bool input);
+  /// Makes the error folder. False when a folder is missing or can't be written.
   [[nodiscard]] bool PrepareToUpload();
+  /// Sends all that is due, with a log row for each file, and stores the new date limit.
   void ProcessFiles();
 
-  /// Renames the task's file from ".vnt" to ".del".
+  /// The pause after a failed mount, common to all tasks: true until 36000 ticks have passed. Any thread.
+  [[nodiscard]] static bool triedAutoMount();
+  static void setTriedAutoMount(bool tried);
+  using MountOperation = std::function<QString(const MountRequest& request, int& errorCode)>;
+  /// What mounts a share; the platform's operation unless a test scripts another.
+  static void setMountOperation(MountOperation operation);
+
+  /// Renames the task's file to end in ".del", so that it isn't loaded any more.
   IoResult MarkToDelete();
 
   // The shared list, guarded; any thread.
@@ -64,9 +91,12 @@ class UploaderTask {
   static void Load();
   static void unload();
   static void addTask(const TaskPointer& task);
-  static void RemoveTask(const TaskPointer& task);
+  /// Takes the task off the list and marks its file; a task that isn't there changes nothing. A file that can't be
+  /// marked comes back at the next start: the failure says why.
+  static IoResult RemoveTask(const TaskPointer& task);
   /// Adds a disabled copy named "… Copy" with a file of its own; false, with the reason, when it can't be written.
   [[nodiscard]] static bool duplicateTask(const TaskPointer& task, IoResult* failure = nullptr);
+  /// Deletes the marked files. What can't be deleted stays until the next time.
   static void cleanUpDeletedTasks();
   [[nodiscard]] static TaskPointer getTaskWIthName(const QString& name);
   [[nodiscard]] static TaskPointer getNextTaskWithFiles();
@@ -99,4 +129,8 @@ class UploaderTask {
   void buildExclusionRegEx();
   QString mExclusionPattern;
   std::optional<RegEx> exclusionRegEx;
+  BatchLedger m_ledger;  // upload thread
+  bool m_ledgerRead = false;
+  bool m_outputSwept = false;
+  mutable std::atomic<bool> m_exclusionTooCostly{false};  // found by the present look
 };

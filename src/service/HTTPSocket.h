@@ -62,12 +62,15 @@ class HTTPSocket {
   InternetHeaders requestHeaders;  ///< starts with Accept and Accept-Language
   HttpLimits limits;
 
+  /// The content is wiped when it is replaced or the socket goes; a secret in it needs no other copy by then.
   void SetRequestContent(const QByteArray& content, const QByteArray& mimeType);
+  /// For one Post: a source can be read once.
   void SetRequestSource(std::unique_ptr<RequestSource> source, const QByteArray& mimeType);
 
   /// Posts and gives the reply's body as it came, whatever its status; a part of it, or nothing, when the exchange
-  /// failed. `timeoutMs` bounds the time until the connection stands, then the time from there to the first body
-  /// byte, then each silence of the body. Sending is no sign of life.
+  /// failed; failure() then tells why. A reply that came before the request was out, or in the place of a tunnel from
+  /// a proxy, is given too, with that failure. `timeoutMs` bounds the time until the connection stands, then the time
+  /// from there to the first body byte, then each silence of the body. Sending is no sign of life.
   [[nodiscard]] QByteArray Post(const QString& url, int timeoutMs);
   /// The same with GET and without content.
   [[nodiscard]] QByteArray Get(const QString& url, int timeoutMs);
@@ -81,6 +84,8 @@ class HTTPSocket {
 
  private:
   struct Exchange;
+  QByteArray perform(const QByteArray& method, const QString& url, int timeoutMs, RequestSource* content);
+
   std::unique_ptr<Exchange> m_exchange;
 };
 

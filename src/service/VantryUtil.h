@@ -29,10 +29,10 @@ void setAccountURL(const QString& url);
 
 /// How a file's exchange is to be watched, and what it found of the file.
 struct SendFileWatch {
-  FileVersion version;  ///< the version to send; a file in any other is not sent
+  FileVersion version;                                      ///< the version to send; a file in any other is not sent
   std::function<void(qint64 sent, qint64 total)> progress;  ///< file bytes; calling thread, at most every 64 KiB
-  bool fileChanged = false;    ///< out: the file was not in that version, or moved while it was read; exchange broken off
-  HttpFailure failure;         ///< out: how the exchange ended
+  bool fileChanged = false;  ///< out: the file was not in that version, or moved while it was read; exchange broken off
+  HttpFailure failure;       ///< out: how the exchange ended
 };
 
 /// Delivers one file in Base64, streamed: print job (SendFile) or instrument job (SendIWFile). Gives the reply, or

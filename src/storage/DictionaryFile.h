@@ -20,7 +20,9 @@ class DictionaryFile {
   explicit DictionaryFile(FileOps& ops = FileOps::real());
 
   /// Reads `f`, which becomes the location. A file that doesn't exist gives an empty dictionary and is no failure.
-  /// Anything that can't be read, deciphered or parsed gives a failure in words and leaves the dictionary empty.
+  /// Anything that can't be read, deciphered or parsed gives a failure in words and leaves the dictionary empty; that
+  /// file is then never written over by this object, so that what it holds is not lost to defaults.
+  /// DictionaryFormat::Damaged and EFBIG tell content that is no dictionary; other errors, a file that was not read.
   [[nodiscard]] IoResult open(const FolderItem& f);
 
   [[nodiscard]] std::optional<FolderItem> location() const;
@@ -41,8 +43,8 @@ class DictionaryFile {
   void Remove(const QString& key);
   [[nodiscard]] QStringList Keys() const;
 
-  /// Writes the location safely (see writeFileSafely). False without a location or when the disk refuses; the old
-  /// file then stands as it was, and lastFailure() tells why.
+  /// Writes the location safely (see writeFileSafely). False without a location, over a file that could not be read,
+  /// or when the disk refuses; the old file then stands as it was, and lastFailure() tells why.
   [[nodiscard]] bool save();
   /// Makes `f` the location and saves.
   [[nodiscard]] bool save(const FolderItem& f);
@@ -51,12 +53,15 @@ class DictionaryFile {
   [[nodiscard]] IoResult lastFailure() const;
 
  private:
-  [[nodiscard]] bool write(const FolderItem& target);
+  [[nodiscard]] bool write(const std::optional<FolderItem>& target);
+  [[nodiscard]] QVariant lookup(const QString& key) const;
+  void store(const QString& key, const QVariant& value);
 
   FileOps& m_ops;
   QSemaphore FileAccess{1};  ///< one save at a time; every save takes it
-  mutable QMutex m_mutex;    // guards the three below
+  mutable QMutex m_mutex;    // guards the four below
   Dictionary m_values;
   std::optional<FolderItem> m_location;
+  std::optional<FolderItem> m_unread;  ///< the file that open() could not take in
   IoResult m_lastFailure;
 };

@@ -7,7 +7,7 @@
 
 class ManualClock : public Clock {
  public:
-  explicit ManualClock(double seconds = 1'700'000'000.0) : m_ns(static_cast<qint64>(seconds * 1e9)) {}
+  explicit ManualClock(double seconds = 1'700'000'000.123) : m_ns(static_cast<qint64>(seconds * 1e9)) {}
   [[nodiscard]] Date now() const override { return Date::fromNanoseconds(m_ns.load()); }
   [[nodiscard]] qint64 monotonicMs() const override { return m_ms.load(); }
   void advance(double seconds) {

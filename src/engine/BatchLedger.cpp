@@ -1,0 +1,130 @@
+#include "engine/BatchLedger.h"
+
+#include <QCryptographicHash>
+#include <QtEndian>
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+
+// A local kernel dates a file up to one tick before the moment of writing, in seconds.
+static constexpr double KernelTick = 0.01;
+
+// The step in which this date was probably kept, in milliseconds: a finer file system seldom hits a whole second.
+static qint64 dateStepMs(qint64 mtimeNs) {
+  constexpr qint64 second = 1'000'000'000;
+  if (mtimeNs % second != 0) return 0;
+  return mtimeNs % (2 * second) == 0 ? 2000 : 1000;
+}
+
+double BatchLedger::cutoff(double dateLimit, const Date& now) {
+  if (dateLimit <= 0) return dateLimit;
+  return std::min(dateLimit, now.TotalSeconds()) - WindowSeconds;
+}
+
+BatchLedger::Fingerprint BatchLedger::fingerprint(const ScannedFile& file) {
+  QCryptographicHash hash(QCryptographicHash::Blake2b_160);
+  const qint64 numbers[2] = {file.version.size, file.version.mtimeNs};
+  hash.addData(QByteArrayView(reinterpret_cast<const char*>(numbers), sizeof numbers));
+  hash.addData(file.name);
+  return qFromLittleEndian<quint64>(hash.result().constData());
+}
+
+bool BatchLedger::atRest(const ScannedFile& file, const Date& began, qint64 monotonicMs) {
+  // Within one step of the date a change of content may not show, so the rest begins a step later.
+  const qint64 stepMs = dateStepMs(file.version.mtimeNs);
+  const auto known = m_observed.find(file.name);
+  if (known != m_observed.end()) {
+    if (known->version != file.version) *known = {file.version, monotonicMs};
+    return monotonicMs - known->movedAtMs >= RestMs + stepMs;
+  }
+  // Seen for the first time: its date tells how long it has been at rest, unless the date can't be trusted. A file
+  // that appeared since the last look but is dated before it comes from a clock that runs behind, or was copied with
+  // its date; one dated ahead of us comes from a clock ahead.
+  const double date = secondsOf(file.version.mtimeNs);
+  const auto ageMs = static_cast<qint64>((began.TotalSeconds() - date) * 1000);
+  const double lastLook = m_lastLook > 0 ? m_lastLook : m_limit;
+  const bool trusted = ageMs >= 0 && date >= lastLook - static_cast<double>(stepMs) / 1000 - KernelTick;
+  const qint64 restedMs = trusted ? ageMs : 0;
+  m_observed.insert(file.name, {file.version, monotonicMs - restedMs});
+  return restedMs >= RestMs + stepMs;
+}
+
+BatchLedger::Selection BatchLedger::look(const std::vector<ScannedFile>& listing, double dateLimit, const Date& began,
+                                         qint64 monotonicMs) {
+  if (dateLimit < m_limit) {
+    m_dealtWith.clear();
+    m_observed.clear();
+    m_lastLook = 0;
+  }
+  m_limit = dateLimit;
+  const bool trustLimitAlone = !m_hasMemory;
+  m_hasMemory = true;
+  m_lastListing.clear();
+  m_waiting.clear();
+
+  Selection selection;
+  QHash<QByteArray, Observation> stillObserved;
+  for (const ScannedFile& file : listing) {
+    const Fingerprint print = fingerprint(file);
+    m_lastListing.insert(print);
+    if (m_dealtWith.contains(print)) continue;
+    if (trustLimitAlone && secondsOf(file.version.mtimeNs) <= dateLimit) {
+      m_dealtWith.insert(print, file.version.mtimeNs);  // an earlier run sent it: the limit is all it left us
+      continue;
+    }
+    (atRest(file, began, monotonicMs) ? selection.due : m_waiting).push_back(file);
+    const auto observed = m_observed.constFind(file.name);
+    if (observed != m_observed.cend()) stillObserved.insert(file.name, *observed);
+  }
+  m_observed.swap(stillObserved);
+  m_lastLook = began.TotalSeconds();
+  selection.waiting = m_waiting;
+  return selection;
+}
+
+void BatchLedger::dealtWith(const ScannedFile& file) {
+  m_dealtWith.insert(fingerprint(file), file.version.mtimeNs);
+  m_observed.remove(file.name);
+}
+
+void BatchLedger::foundMoving(const ScannedFile& file, qint64 monotonicMs) {
+  m_observed.insert(file.name, {file.version, monotonicMs});
+  m_waiting.push_back(file);
+}
+
+double BatchLedger::close(const Date& began) {
+  double limit = began.TotalSeconds();
+  for (const ScannedFile& file : m_waiting) {
+    const double date = secondsOf(file.version.mtimeNs);
+    limit = std::min(limit, std::nextafter(date, date - 1));
+  }
+  limit = std::max(limit, std::min(m_limit, began.TotalSeconds()));
+
+  m_dealtWith.removeIf([&](const auto& entry) {
+    const double date = secondsOf(entry.value());
+    return date <= limit - WindowSeconds || (date > limit && !m_lastListing.contains(entry.key()));
+  });
+  m_limit = limit;
+  return limit;
+}
+
+QString BatchLedger::toText() const {
+  QByteArray bytes;
+  bytes.reserve(m_dealtWith.size() * 16);
+  for (auto it = m_dealtWith.cbegin(); it != m_dealtWith.cend(); ++it) {
+    const quint64 pair[2] = {qToLittleEndian(it.key()), qToLittleEndian(static_cast<quint64>(it.value()))};
+    bytes.append(reinterpret_cast<const char*>(pair), sizeof pair);
+  }
+  return QString::fromLatin1(bytes.toBase64());
+}
+
+void BatchLedger::fromText(const QString& text) {
+  m_dealtWith.clear();
+  const auto result = QByteArray::fromBase64Encoding(text.toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
+  m_hasMemory = result && result.decoded.size() % 16 == 0;
+  if (!m_hasMemory) return;
+  for (qsizetype i = 0; i < result.decoded.size(); i += 16) {
+    const char* pair = result.decoded.constData() + i;
+    m_dealtWith.insert(qFromLittleEndian<quint64>(pair), qFromLittleEndian<qint64>(pair + 8));
+  }
+}

@@ -1,0 +1,75 @@
+// Task files: one enciphered dictionary each.
+
+#include <array>
+
+#include "engine/UploaderTask.h"
+#include "platform/Problems.h"
+#include "storage/DictionaryFile.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+struct TextMember {
+  const char* key;
+  QString UploaderTask::*field;
+};
+struct FlagMember {
+  const char* key;
+  bool UploaderTask::*field;
+};
+
+// The members of the file's object, beside the exclusion pattern.
+constexpr std::array textMembers{
+    TextMember{"name", &UploaderTask::Name},
+    TextMember{"description", &UploaderTask::Description},
+    TextMember{"warden", &UploaderTask::Warden},
+    TextMember{"filename", &UploaderTask::FileName},
+    TextMember{"extension", &UploaderTask::Extension},
+    TextMember{"track", &UploaderTask::Track},
+    TextMember{"inputfolder", &UploaderTask::inputFolderPath},
+    TextMember{"outputfolder", &UploaderTask::outputFolderPath},
+    TextMember{"prefix", &UploaderTask::Prefix},
+};
+constexpr std::array flagMembers{
+    FlagMember{"autorecognition", &UploaderTask::AutoRecognition},
+    FlagMember{"replacename", &UploaderTask::ReplaceName},
+    FlagMember{"adddatetofilename", &UploaderTask::AddDateToFilename},
+    FlagMember{"deleteaftersave", &UploaderTask::DeleteAfterSave},
+};
+
+}  // namespace
+
+IoResult UploaderTask::open(const FolderItem& taskFile) {
+  file = taskFile;
+  DictionaryFile dictionary;
+  const IoResult result = dictionary.open(taskFile);
+  if (!result.ok()) return result;
+
+  for (const TextMember& member : textMembers)
+    this->*member.field = dictionary.StringValue(QLatin1String(member.key));
+  for (const FlagMember& member : flagMembers)
+    this->*member.field = dictionary.BooleanValue(QLatin1String(member.key));
+  setExclusionPattern(dictionary.StringValue(u"exclusion"_s));
+  inputFolder = dictionary.FileValue(u"inputfolder"_s);
+  outputFolder = dictionary.FileValue(u"outputfolder"_s);
+
+  if (exclusionRegEx && !exclusionRegEx->isValid())
+    Problems::raise(Problem::Kind::ExclusionInvalid, Name, exclusionRegEx->errorString());
+  else Problems::clear(Problem::Kind::ExclusionInvalid, Name);
+  return {};
+}
+
+bool UploaderTask::save(const FolderItem& taskFile, IoResult* failure) {
+  file = taskFile;
+  DictionaryFile dictionary;
+  for (const TextMember& member : textMembers)
+    dictionary.setStringValue(QLatin1String(member.key), this->*member.field);
+  for (const FlagMember& member : flagMembers)
+    dictionary.setBooleanValue(QLatin1String(member.key), this->*member.field);
+  dictionary.setStringValue(u"exclusion"_s, mExclusionPattern);
+
+  const bool saved = dictionary.save(taskFile);
+  if (!saved && failure) *failure = dictionary.lastFailure();
+  return saved;
+}

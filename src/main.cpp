@@ -1,0 +1,78 @@
+// Wires the rooms together: one instance, the order of coming up, the order of going down.
+
+#include <unistd.h>
+
+#include <QApplication>
+#include <QIcon>
+#include <QMessageBox>
+#include <QSessionManager>
+#include <QTimer>
+
+#include "EndSignals.h"
+#include "SingleInstance.h"
+#include "engine/App.h"
+#include "engine/StartUp.h"
+#include "engine/UploadThread.h"
+#include "monitor/VTUploaderMainWIndow.h"
+#include "platform/SpecialFolder.h"
+#include "text/Placeholders.h"
+#include "text/VTULocalization.h"
+#include "version.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+static constexpr int StopLimitMs = 2000;
+
+static void tell(const QString& text) { QMessageBox::warning(nullptr, QString::fromLatin1(AppDisplayName), text); }
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(QString::fromLatin1(AppId));
+  QApplication::setApplicationDisplayName(QString::fromLatin1(AppDisplayName));
+  QApplication::setApplicationVersion(u"%1.%2.%3"_s.arg(MajorVersion).arg(MinorVersion).arg(BugVersion));
+  QApplication::setDesktopFileName(QString::fromLatin1(AppId));
+  QApplication::setWindowIcon(QIcon(u":/pictures/vantry-uploader.svg"_s));
+  QApplication::setQuitOnLastWindowClosed(false);  // the main window quits by itself; a message box must not
+
+  const FolderItem dataFolder = SpecialFolder::ApplicationData();
+  const IoResult made = SpecialFolder::createPrivate(dataFolder);
+  if (!made.ok()) {
+    tell(fillPlaceholders(VTULocalization::klStartFailed(), {made.message()}));
+    return 1;
+  }
+  SingleInstance instance(dataFolder);
+  switch (instance.start()) {
+    case SingleInstance::Start::First:
+      break;
+    case SingleInstance::Start::HandedOver:
+      return 0;
+    case SingleInstance::Start::Silent:
+      tell(VTULocalization::klAlreadyRunning());
+      return 1;
+    case SingleInstance::Start::Forbidden:
+      tell(fillPlaceholders(VTULocalization::klStartFailed(), {dataFolder.NativePath()}));
+      return 1;
+  }
+
+  VTUploaderMainWIndow window;
+  QObject::connect(&instance, &SingleInstance::showRequested, &window, [&window] {
+    window.showNormal();
+    window.raise();
+    window.activateWindow();
+  });
+  const EndSignals signalsEnd([&window] { window.quitWithoutAsking(); });
+  QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
+                   [&window](QSessionManager&) { window.quitWithoutAsking(); });
+
+  const QString notice = App::Event_Open([&window] { window.show(); });
+  if (!notice.isEmpty()) QTimer::singleShot(0, &window, [notice] { tell(notice); });
+
+  const int exitCode = QApplication::exec();
+  UploadThread::Enabled = false;
+  const bool startUpEnded = StartUp::stop(StopLimitMs);
+  const bool uploadEnded = UploadThread::stop(StopLimitMs);
+  App::Event_Close();
+  // A thread that hangs in the kernel on a dead share can't be waited for, and nothing may be torn down under it.
+  if (!startUpEnded || !uploadEnded) _exit(exitCode);
+  return exitCode;
+}

@@ -1,0 +1,112 @@
+#include "monitor/FootStrip.h"
+
+#include <QLocale>
+#include <algorithm>
+
+#include "monitor/MonitorText.h"
+#include "text/Placeholders.h"
+#include "text/VTULocalization.h"
+#include "widgets/Captions.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+/// The lower, the sooner a person must know.
+enum class Rank { NothingIsSent, SomethingAtStake, OneTaskHindered, ToKnow, NoLogin };
+
+static Rank rankOf(Problem::Kind kind) {
+  switch (kind) {
+    case Problem::Kind::TaskFolderUnreadable:
+    case Problem::Kind::ServiceUnreachable:
+      return Rank::NothingIsSent;
+    case Problem::Kind::UploadFailed:
+    case Problem::Kind::CopyFailed:
+    case Problem::Kind::RunFailed:
+    case Problem::Kind::LogUnavailable:
+    case Problem::Kind::LogRowLost:
+    case Problem::Kind::PreferencesNotSaved:
+      return Rank::SomethingAtStake;
+    case Problem::Kind::TaskFileSkipped:
+    case Problem::Kind::ExclusionInvalid:
+    case Problem::Kind::ExclusionTooCostly:
+    case Problem::Kind::InputFolderUnreadable:
+      return Rank::OneTaskHindered;
+    case Problem::Kind::PreferencesSetAside:
+    case Problem::Kind::LogSetAside:
+      return Rank::ToKnow;
+    case Problem::Kind::NoLogin:
+      return Rank::NoLogin;
+  }
+  return Rank::ToKnow;
+}
+
+/// Everything that is wrong, in words, the most serious first and the oldest first among equals.
+static QStringList wrongs(const StripInput& input) {
+  struct Wrong {
+    Rank rank;
+    QString text;
+  };
+  QList<Wrong> found;
+  QStringList toldTasks;
+  for (const Problem& problem : input.problems) {
+    const Problem cleaned{problem.kind, onOneLine(problem.subject), onOneLine(problem.detail)};
+    found.append({rankOf(problem.kind), VTULocalization::problemText(cleaned)});
+    if (problem.kind == Problem::Kind::InputFolderUnreadable) toldTasks << problem.subject;
+  }
+  for (const QString& task : input.faultyTasks)
+    if (!toldTasks.contains(task))
+      found.append({Rank::OneTaskHindered, fillPlaceholders(MonitorText::klStripFolderFault(), {onOneLine(task)})});
+  std::stable_sort(found.begin(), found.end(), [](const Wrong& a, const Wrong& b) { return a.rank < b.rank; });
+  QStringList texts;
+  for (const Wrong& wrong : std::as_const(found)) texts << wrong.text;
+  return texts;
+}
+
+static QString sendingText(const EngineActivity& activity) {
+  const qint64 total = std::max<qint64>(activity.totalBytes, 1);
+  const qint64 sent = std::clamp<qint64>(activity.sentBytes, 0, total);
+  const auto percent = static_cast<int>(100.0 * static_cast<double>(sent) / static_cast<double>(total));
+  return fillPlaceholders(VTULocalization::klStripSending(),
+                          {onOneLine(activity.task), onOneLine(activity.file), QString::number(percent)});
+}
+
+static QString momentText(const QDateTime& moment, const QDateTime& now) {
+  const QLocale locale;
+  return moment.date() == now.date() ? locale.toString(moment.time(), QLocale::ShortFormat)
+                                     : locale.toString(moment, QLocale::ShortFormat);
+}
+
+bool isWell(const StripInput& input) { return input.problems.isEmpty() && input.faultyTasks.isEmpty(); }
+
+StripLine composeStrip(const StripInput& input) {
+  using Tone = StripLine::Tone;
+  const QStringList wrong = wrongs(input);
+  const auto withDetails = [&wrong](Tone tone, const QString& text) {
+    return StripLine{tone, text, {}, (QStringList(text) + wrong).join(u'\n')};
+  };
+  if (!input.notice.isEmpty()) return withDetails(Tone::Quiet, onOneLine(input.notice));
+  if (input.activity.sending) return withDetails(Tone::Sending, sendingText(input.activity));
+  if (!wrong.isEmpty()) {
+    const QString more = wrong.size() == 1
+                             ? QString()
+                             : fillPlaceholders(MonitorText::klStripAndMore(), {QString::number(wrong.size() - 1)});
+    return {Tone::Wrong, wrong.first(), more, wrong.join(u'\n')};
+  }
+  switch (input.phase) {
+    case StartPhase::Connecting:
+      return withDetails(Tone::Quiet, VTULocalization::klStripConnecting());
+    case StartPhase::Checking:
+      return withDetails(Tone::Quiet, VTULocalization::klStripChecking());
+    case StartPhase::Running:
+      break;
+  }
+  return withDetails(Tone::Well,
+                     fillPlaceholders(VTULocalization::klStripAllWell(), {momentText(input.wellSince, input.now)}));
+}
+
+QDateTime WellSince::update(const StripInput& input) {
+  if (input.phase != StartPhase::Running || !isWell(input))
+    m_since = QDateTime();
+  else if (!m_since.isValid())
+    m_since = input.now;
+  return m_since;
+}

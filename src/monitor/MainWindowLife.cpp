@@ -1,0 +1,89 @@
+// The main window's opening and closing.
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QPointer>
+
+#include "monitor/VTUploaderMainWIndow.h"
+#include "platform/Problems.h"
+#include "storage/Preferences.h"
+#include "text/Placeholders.h"
+#include "text/VTULocalization.h"
+#include "widgets/Messages.h"
+
+void VTUploaderMainWIndow::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  if (m_opened) return;
+  m_opened = true;
+  QMetaObject::invokeMethod(this, &VTUploaderMainWIndow::Event_Open, Qt::QueuedConnection);
+}
+
+void VTUploaderMainWIndow::Event_Open() {
+  if (VantryUtil::SoapUserName().trimmed().isEmpty() || VantryUtil::SoapPassword().trimmed().isEmpty()) {
+    Problems::raise(Problem::Kind::NoLogin, {}, {});
+    if (m_commands.showAdminWindow) m_commands.showAdminWindow();
+  }
+  StartItUp();
+}
+
+/// Runs `call` on the main thread with the window, if there still is one by then.
+static auto onMainThread(const QPointer<VTUploaderMainWIndow>& window, auto call) {
+  QMetaObject::invokeMethod(
+      qApp,
+      [window, call] {
+        if (window) call(*window);
+      },
+      Qt::QueuedConnection);
+}
+
+void VTUploaderMainWIndow::StartItUp() {
+  const QPointer<VTUploaderMainWIndow> window(this);
+  StartUp::Events events;
+  events.tasksLoaded = [window] { onMainThread(window, [](VTUploaderMainWIndow& w) { w.tasksLoaded(); }); };
+  events.failed = [window](const QString& reason) {
+    onMainThread(window, [reason](VTUploaderMainWIndow& w) { w.startFailed(reason); });
+  };
+  m_commands.beginStartUp(events);
+}
+
+void VTUploaderMainWIndow::tasksLoaded() {
+  if (m_closed) return;
+  if (m_phase == StartPhase::Connecting) m_phase = StartPhase::Checking;
+  ListTasks();
+  StripRefresher_Action();
+}
+
+void VTUploaderMainWIndow::startFailed(const QString& reason) {
+  if (m_closed) return;
+  Messages::tell(this, fillPlaceholders(VTULocalization::klStartFailed(), {reason}));
+  quitWithoutAsking();
+}
+
+void VTUploaderMainWIndow::quitWithoutAsking() {
+  m_quitting = true;
+  finish();  // not close(): while its question is open, Qt takes that for done
+  hide();
+}
+
+bool VTUploaderMainWIndow::Event_CancelClose() {
+  return !Messages::askYesNo(this, VTULocalization::klSureYouWantToQuit());
+}
+
+void VTUploaderMainWIndow::closeEvent(QCloseEvent* event) {
+  const bool stays = !m_quitting && Event_CancelClose() && !m_quitting;  // the session may end over the question
+  event->setAccepted(!stays);
+  if (!stays) finish();
+}
+
+void VTUploaderMainWIndow::finish() {
+  if (m_closed) return;
+  m_closed = true;
+  Event_Close();
+}
+
+void VTUploaderMainWIndow::Event_Close() {
+  StatusRefresher->stop();
+  StripRefresher->stop();
+  UploaderTask::cleanUpDeletedTasks();
+  QCoreApplication::exit(0);
+}

@@ -1,0 +1,10 @@
+#pragma once
+// The main window's own texts of the catalogue. Any thread.
+
+#include <QString>
+
+namespace MonitorText {
+#define VTU_CONSTANT(name, english) [[nodiscard]] QString name();
+#include "monitor/MonitorText.inc"
+#undef VTU_CONSTANT
+}  // namespace MonitorText

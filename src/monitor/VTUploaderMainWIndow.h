@@ -1,0 +1,100 @@
+#pragma once
+// The one document window: the task list, what the background work is doing, and the commands. Its timer begins each
+// run of the upload thread. Lives from start to end of the program; its closing ends the program. Main thread.
+
+#include <QDeadlineTimer>
+#include <QLabel>
+#include <QMainWindow>
+#include <QPushButton>
+#include <QTimer>
+#include <functional>
+
+#include "engine/StartUp.h"
+#include "engine/UploaderTask.h"
+#include "monitor/HeaderPicture.h"
+#include "monitor/ShadedStrip.h"
+#include "monitor/TaskListModel.h"
+#include "monitor/TaskListView.h"
+
+/// What the window's commands open; whoever wires the program sets them. An empty one makes its button say in the
+/// foot strip that the window is not there.
+struct MainWindowCommands {
+  std::function<bool()> createNewTask;               ///< true: a task was added
+  std::function<bool(const TaskPointer&)> editTask;  ///< true: the task was changed
+  std::function<bool()> checkAdminPassword;          ///< empty: none is asked for
+  std::function<void()> showAdminWindow;             ///< returns when it is closed
+  std::function<void()> showLogWindow;
+  std::function<void(const StartUp::Events&)> beginStartUp = &StartUp::begin;
+};
+
+class VTUploaderMainWIndow : public QMainWindow {
+  Q_OBJECT
+ public:
+  explicit VTUploaderMainWIndow(MainWindowCommands commands = {}, QWidget* parent = nullptr);
+
+  /// Rebuilds the list from allTasks as one change on screen, with no row selected, and brings it up to date.
+  void ListTasks();
+  /// Brings the present rows up to date with their tasks.
+  void updateTaskStatusAndCount();
+  /// Begins the start-up calls; their answers come from another thread and are dropped once the window is closed.
+  void StartItUp();
+  /// Says something in the foot strip for some seconds.
+  void say(const QString& notice);
+  /// Closes without the question, also while a message box is open; for the end of the session.
+  void quitWithoutAsking();
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void buildControls();
+  void buildKeys();
+  void connectControls();
+
+  void Event_Open();
+  /// True keeps the window open.
+  [[nodiscard]] bool Event_CancelClose();
+  void Event_Close();
+  void StatusRefresher_Action();
+  void StripRefresher_Action();
+  void TaskList_Change();
+  void NewButton_Action();
+  void EditButton_Action();
+  void DuplicateButton_Action();
+  void RemoveButton_Action();
+  void AdminButton_Action();
+  void ShowLogbutton_Action();
+  void HelpButton_MouseUp();
+
+  /// What every way of closing ends in; does its work once.
+  void finish();
+  void tasksLoaded();
+  void startFailed(const QString& reason);
+  [[nodiscard]] StripInput stripInput();
+  [[nodiscard]] TaskPointer selectedTask() const;
+
+  HeaderPicture* Banner = nullptr;
+  PictureButton* HelpButton = nullptr;
+  QLabel* VersionLabel = nullptr;
+  TaskListView* TaskList = nullptr;
+  QPushButton* NewButton = nullptr;
+  QPushButton* EditButton = nullptr;
+  QPushButton* DuplicateButton = nullptr;
+  QPushButton* RemoveButton = nullptr;
+  QPushButton* AdminButton = nullptr;
+  QPushButton* ShowLogbutton = nullptr;
+  ShadedStrip* BottomShadingRect = nullptr;
+  QTimer* StatusRefresher = nullptr;
+  QTimer* StripRefresher = nullptr;
+
+  MainWindowCommands m_commands;
+  TaskListModel* m_model;
+  StartPhase m_phase = StartPhase::Connecting;
+  WellSince m_wellSince;
+  QString m_notice;
+  QDeadlineTimer m_noticeEnd{0};
+  bool m_opened = false;
+  bool m_quitting = false;
+  bool m_closed = false;
+};

@@ -1,0 +1,52 @@
+#pragma once
+// What the two catalogues have in common: a list that is fetched whole, handed out as a copy, and looked up from its
+// first entry to its last without regard to case. Any thread.
+
+#include <QList>
+#include <QMutex>
+#include <QString>
+#include <QStringList>
+#include <atomic>
+
+#include "service/VantryUtil.h"
+
+template <typename Record>
+class Catalogue {
+ public:
+  [[nodiscard]] QList<Record> records() const {
+    const QMutexLocker lock(&m_mutex);
+    return m_records;
+  }
+  void setRecords(const QList<Record>& records) {
+    const QMutexLocker lock(&m_mutex);
+    m_records = records;
+  }
+  [[nodiscard]] bool everFetched() const { return m_everFetched; }
+
+  /// Empties the list and fills it from a method's reply; entries that are no objects or arrays are passed over.
+  [[nodiscard]] bool fetch(const QString& method, HttpFailure* failure) {
+    setRecords({});
+    QString err;  // dropped: an empty list says it
+    const std::optional<Dictionary> reply = VantryUtil::VTSoap(method, err, {}, {}, failure);
+    if (!reply) return false;
+    QList<Record> fetched;
+    for (const QVariant& value : reply->Values()) {
+      if (value.canConvert<JSONItem>()) fetched.append(Record(VantryUtil::JSONtoDictionary(value.value<JSONItem>())));
+    }
+    setRecords(fetched);
+    m_everFetched = true;
+    return true;
+  }
+
+ private:
+  mutable QMutex m_mutex;  // guards m_records
+  QList<Record> m_records;
+  std::atomic<bool> m_everFetched{false};
+};
+
+/// Equal without regard to case.
+[[nodiscard]] bool sameText(const QString& one, const QString& other);
+/// Appends a text unless the list holds it, in any case.
+void appendDistinct(QStringList& list, const QString& text);
+/// A field of a record as text: empty if it is missing.
+[[nodiscard]] QString recordText(const Dictionary& record, const QString& key);

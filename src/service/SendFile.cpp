@@ -1,0 +1,62 @@
+#include <cerrno>
+
+#include "service/Credentials.h"
+#include "service/Envelope.h"
+#include "service/FileSource.h"
+#include "service/SoapReply.h"
+#include "service/VantryUtil.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+/// The envelope before and behind the file's content. The template is cut before it is filled, since a file may be
+/// named like the placeholder.
+static void setEnvelope(FileSource& source, const QString& filename, const QString& workflowName, bool instrumentJob) {
+  const QByteArray pattern = VantryUtil::sendFileTemplate();
+  const QByteArray body = "[FILEBODY]";
+  const qsizetype cut = pattern.indexOf(body);
+  const auto fill = [&](const QByteArray& part) {
+    return Envelope::fill(part, {{"[login]", Envelope::escaped(storedPreference(u"SoapLogin"_s))},
+                                 {"[Trackname]", instrumentJob ? "ITWorkflowName" : "Trackname"},
+                                 {"[password]", Envelope::passwordField(storedPreference(u"SoapPassword"_s))},
+                                 {"[FILENAME]", Envelope::escaped(filename)},
+                                 {"[TRACKWORKFLOWNAME]", Envelope::escaped(workflowName)},
+                                 {"[SendFile]", instrumentJob ? "SendIWFile" : "SendFile"}});
+  };
+  source.setEnvelope(fill(pattern.left(cut)), fill(pattern.mid(cut + body.size())));
+}
+
+/// What the source met with the file, as the failure of the exchange.
+static void takeFileState(const FileSourceState& state, VantryUtil::SendFileWatch& watch) {
+  watch.fileChanged = state.changed;
+  if (state.failure.ok()) return;
+  const QString words = state.changed ? u"the file changed before it was sent whole"_s : state.failure.message();
+  watch.failure = {HttpFailure::Phase::Source, state.failure.error, words};
+}
+
+std::optional<Dictionary> VantryUtil::SendFile(const QString& filename, const QString& workflowName,
+                                               const std::optional<FolderItem>& file, bool instrumentJob, QString& err,
+                                               SendFileWatch& watch) {
+  watch.fileChanged = false;
+  watch.failure = {};
+  if (!file) {
+    watch.failure = {HttpFailure::Phase::Source, ENOENT, u"there is no file to send"_s};
+    return std::nullopt;
+  }
+  FileSourceState state;
+  auto source = std::make_unique<FileSource>(*file, watch.version, state);
+  if (!source->isOpen()) {
+    takeFileState(state, watch);
+    return std::nullopt;
+  }
+  setEnvelope(*source, filename, workflowName, instrumentJob);
+  source->setProgress(watch.progress);
+
+  HTTPSecureSocket socket;
+  ConfigureProxy(socket);
+  socket.SetRequestSource(std::move(source), EnvelopeType);
+  const QByteArray page = socket.Post(endpointInForce(), ServiceTimeoutMs);
+  watch.failure = socket.failure();
+  takeFileState(state, watch);
+  const SoapReplyTexts texts{u"Could not parse server response - invalid or missing XML"_s, u"Soap Error"_s};
+  return readSoapReply(page, watch.failure, u"SendFile"_s, texts, err);
+}

@@ -1,0 +1,122 @@
+#include "service/TlsContext.h"
+
+#include <arpa/inet.h>
+#include <openssl/err.h>
+#include <openssl/ssl.h>
+#include <openssl/x509v3.h>
+
+#include <QFile>
+#include <QUrl>
+#include <cstring>
+
+#include "platform/SafeFile.h"
+#include "service/Url.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+// The servers of an account are one or two; more than this is somebody's test.
+static constexpr size_t MaxSessions = 64;
+
+/// Where an SSL object keeps the name under which its sessions are filed.
+static int serverNameIndex() {
+  static const int index = SSL_get_ex_new_index(
+      0, nullptr, nullptr, nullptr,
+      [](void*, void* name, CRYPTO_EX_DATA*, int, long, void*) { delete static_cast<QByteArray*>(name); });
+  return index;
+}
+
+std::shared_ptr<TlsContext> TlsContext::load(const QString& extraCaFile, QString& error) {
+  const std::unique_ptr<SSL_CTX, void (*)(SSL_CTX*)> context(SSL_CTX_new(TLS_client_method()), SSL_CTX_free);
+  if (!context || SSL_CTX_set_min_proto_version(context.get(), TLS1_2_VERSION) != 1) {
+    error = u"OpenSSL could not be set up"_s;
+    return nullptr;
+  }
+  SSL_CTX_set_default_verify_paths(context.get());
+  if (!extraCaFile.isEmpty() &&
+      SSL_CTX_load_verify_file(context.get(), QFile::encodeName(extraCaFile).constData()) != 1) {
+    error = u"the file of trusted certificates \"%1\" can't be used"_s.arg(extraCaFile);
+    ERR_clear_error();
+    return nullptr;
+  }
+  SSL_CTX_set_verify(context.get(), SSL_VERIFY_PEER, nullptr);
+  SSL_CTX_set_options(context.get(), SSL_OP_NO_RENEGOTIATION | SSL_OP_NO_COMPRESSION);
+  SSL_CTX_set_mode(context.get(), SSL_MODE_ENABLE_PARTIAL_WRITE | SSL_MODE_ACCEPT_MOVING_WRITE_BUFFER);
+  SSL_CTX_set_read_ahead(context.get(), 1);
+  SSL_CTX_set_session_cache_mode(context.get(), SSL_SESS_CACHE_CLIENT | SSL_SESS_CACHE_NO_INTERNAL_STORE);
+  SSL_CTX_sess_set_new_cb(context.get(), sessionArrived);
+  SSL_CTX_up_ref(context.get());
+  std::shared_ptr<TlsContext> result(new TlsContext(context.get()));
+  SSL_CTX_set_app_data(context.get(), result.get());
+  return result;
+}
+
+std::shared_ptr<TlsContext> TlsContext::shared(const QString& extraCaFile, QString& error) {
+  struct Loaded {
+    std::optional<FileVersion> version;
+    std::shared_ptr<TlsContext> context;
+  };
+  static std::mutex mutex;  // guards contexts
+  static auto& contexts = *new std::map<QString, Loaded>;
+
+  std::optional<FileVersion> version;
+  if (const auto item = FolderItem::fromNativePath(extraCaFile)) version = versionOf(*item);
+  const std::lock_guard lock(mutex);
+  Loaded& loaded = contexts[extraCaFile];
+  if (!loaded.context || loaded.version != version) loaded = {version, load(extraCaFile, error)};
+  return loaded.context;
+}
+
+TlsContext::~TlsContext() {
+  SSL_CTX_set_app_data(m_context, nullptr);
+  SSL_CTX_free(m_context);
+}
+
+static QByteArray serverName(const QString& host, int port) { return hostAndPort(host.toLower(), port).toUtf8(); }
+
+/// Both checks of a name that OpenSSL leaves off unless told: that the certificate is for it, and that the server
+/// knows which name is meant.
+static bool expectHost(SSL* ssl, const QByteArray& host) {
+  in6_addr ignored;
+  const bool isAddress =
+      inet_pton(AF_INET, host.constData(), &ignored) == 1 || inet_pton(AF_INET6, host.constData(), &ignored) == 1;
+  X509_VERIFY_PARAM* parameters = SSL_get0_param(ssl);
+  if (isAddress) return X509_VERIFY_PARAM_set1_ip_asc(parameters, host.constData()) == 1;
+  X509_VERIFY_PARAM_set_hostflags(parameters, X509_CHECK_FLAG_NO_PARTIAL_WILDCARDS);
+  return SSL_set1_host(ssl, host.constData()) == 1 && SSL_set_tlsext_host_name(ssl, host.constData()) == 1;
+}
+
+ssl_st* TlsContext::newClient(const QString& host, int port) {
+  SSL* ssl = SSL_new(m_context);
+  if (!ssl) return nullptr;
+  const QByteArray name = host.contains(u':') ? host.toLatin1() : QUrl::toAce(host);
+  if (name.isEmpty() || !expectHost(ssl, name)) {
+    SSL_free(ssl);
+    return nullptr;
+  }
+  const QByteArray server = serverName(host, port);
+  SSL_set_ex_data(ssl, serverNameIndex(), new QByteArray(server));
+  const std::lock_guard lock(m_mutex);
+  if (const auto found = m_sessions.find(server); found != m_sessions.end()) {
+    SSL_set_session(ssl, found->second.get());
+  }
+  return ssl;
+}
+
+int TlsContext::sessionArrived(ssl_st* ssl, ssl_session_st* session) {
+  auto* context = static_cast<TlsContext*>(SSL_CTX_get_app_data(SSL_get_SSL_CTX(ssl)));
+  const auto* server = static_cast<const QByteArray*>(SSL_get_ex_data(ssl, serverNameIndex()));
+  if (!context || !server) return 0;
+  context->keepSession(*server, session);
+  return 1;  // the reference is ours now
+}
+
+void TlsContext::keepSession(const QByteArray& server, ssl_session_st* session) {
+  const std::lock_guard lock(m_mutex);
+  if (m_sessions.size() >= MaxSessions && !m_sessions.contains(server)) m_sessions.clear();
+  m_sessions.insert_or_assign(server, SessionPointer(session, SSL_SESSION_free));
+}
+
+void TlsContext::forgetSession(const QString& host, int port) {
+  const std::lock_guard lock(m_mutex);
+  m_sessions.erase(serverName(host, port));
+}

@@ -1,0 +1,103 @@
+#include "text/VTULocalization.h"
+
+#include <QCoreApplication>
+
+#include "text/Placeholders.h"
+
+namespace VTULocalization {
+
+QString _GetLocalizedString(const char* key, const char* defaultText, const QString& /*language*/) {
+  const QString found = qtTrId(key);
+  const bool translated = !found.isEmpty() && found != QLatin1String(key);
+  return translated ? found : QString::fromUtf8(defaultText);
+}
+
+QList<Entry> entries() {
+  return {
+#define VTU_CONSTANT(name, english) {"VTULocalization." #name, english},
+#include "text/VTULocalization.inc"
+
+#include "text/Messages.inc"
+#undef VTU_CONSTANT
+#define VTU_CONSTANT(name, english) {"EditTaskWindow." #name, english},
+#include "text/EditTaskWindowText.inc"
+#undef VTU_CONSTANT
+#define VTU_CONSTANT(name, english) {"VantryUtil." #name, english},
+#include "text/ServiceErrors.inc"
+#undef VTU_CONSTANT
+  };
+}
+
+#define VTU_CONSTANT(name, english) \
+  QString name(const QString& language) { return _GetLocalizedString("VTULocalization." #name, english, language); }
+#include "text/VTULocalization.inc"
+
+#include "text/Messages.inc"
+#undef VTU_CONSTANT
+
+static QString textOf(Problem::Kind kind) {
+  switch (kind) {
+    case Problem::Kind::NoLogin:
+      return klStripNoLogin();
+    case Problem::Kind::TaskFileSkipped:
+      return klStripTaskFileSkipped();
+    case Problem::Kind::TaskFolderUnreadable:
+      return klStripTaskFolderUnreadable();
+    case Problem::Kind::PreferencesSetAside:
+      return klStripPreferencesSetAside();
+    case Problem::Kind::PreferencesNotSaved:
+      return klStripPreferencesNotSaved();
+    case Problem::Kind::LogSetAside:
+      return klStripLogSetAside();
+    case Problem::Kind::LogUnavailable:
+      return klStripLogUnavailable();
+    case Problem::Kind::LogRowLost:
+      return klStripLogRowLost();
+    case Problem::Kind::ExclusionInvalid:
+      return klStripExclusionInvalid();
+    case Problem::Kind::ExclusionTooCostly:
+      return klStripExclusionTooCostly();
+    case Problem::Kind::InputFolderUnreadable:
+      return klStripInputFolderUnreadable();
+    case Problem::Kind::CopyFailed:
+      return klStripCopyFailed();
+    case Problem::Kind::UploadFailed:
+      return klStripUploadFailed();
+    case Problem::Kind::RunFailed:
+      return klStripRunFailed();
+    case Problem::Kind::ServiceUnreachable:
+      return klStripServiceUnreachable();
+  }
+  return {};
+}
+
+/// A file's name may hold line ends; the strip has one line.
+static QString onOneLine(QString text) {
+  for (QChar& c : text)
+    if (c.category() == QChar::Other_Control || c == QChar::LineSeparator || c == QChar::ParagraphSeparator) c = u' ';
+  return text;
+}
+
+QString problemText(const Problem& problem) {
+  return fillPlaceholders(textOf(problem.kind), {onOneLine(problem.subject), onOneLine(problem.detail)});
+}
+
+}  // namespace VTULocalization
+
+#define VTU_CONSTANT(name, english)                                                          \
+  QString name(const QString& language) {                                                    \
+    return VTULocalization::_GetLocalizedString("EditTaskWindow." #name, english, language); \
+  }
+namespace EditTaskWindowText {
+#include "text/EditTaskWindowText.inc"
+}  // namespace EditTaskWindowText
+#undef VTU_CONSTANT
+
+#define VTU_CONSTANT(name, english)                                                      \
+  QString name(const QString& language) {                                                \
+    return VTULocalization::_GetLocalizedString("VantryUtil." #name, english, language); \
+  }
+namespace VantryUtil {
+#include "text/ServiceErrors.inc"
+}  // namespace VantryUtil
+#undef VTU_CONSTANT

@@ -1,0 +1,44 @@
+#include "widgets/Captions.h"
+
+#include <QFontInfo>
+#include <QFontMetrics>
+
+using namespace Qt::Literals::StringLiterals;
+
+constexpr int SmallestPixels = 9;
+constexpr int FrameWidth = 4;  // what the button's style draws on either side of a caption
+
+void setFittedCaption(QPushButton& button, const QString& caption) {
+  const int room = button.width() - 2 * FrameWidth;
+  QFont font = button.font();
+  int pixels = QFontInfo(font).pixelSize();
+  while (pixels > SmallestPixels &&
+         (QFontMetrics(font).horizontalAdvance(caption) > room || QFontMetrics(font).height() > button.height()))
+    font.setPixelSize(--pixels);
+  button.setFont(font);
+  button.setText(caption);
+  button.setToolTip(QFontMetrics(font).horizontalAdvance(caption) > room ? plainToolTip(caption) : QString());
+}
+
+/// U+200E, U+200F, U+061C, the embeddings and overrides, the isolates.
+static bool turnsDirection(QChar c) {
+  const char16_t code = c.unicode();
+  return code == 0x200E || code == 0x200F || code == 0x061C || (code >= 0x202A && code <= 0x202E) ||
+         (code >= 0x2066 && code <= 0x2069);
+}
+
+QString onOneLine(const QString& text, qsizetype limit) {
+  QString line;
+  for (const QChar c : QStringView(text).left(limit)) {
+    if (turnsDirection(c)) continue;
+    const bool breaks =
+        c.category() == QChar::Other_Control || c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
+    line += breaks ? u' ' : c;
+  }
+  if (text.size() > limit) line += u'…';
+  return line;
+}
+
+QString plainToolTip(const QString& text) {
+  return text.isEmpty() ? QString() : u"<qt>"_s + text.toHtmlEscaped().replace(u'\n', u"<br>"_s) + u"</qt>"_s;
+}

@@ -1,0 +1,16 @@
+#pragma once
+// Captions and cell texts that fit the place that they have, whatever the language and the system's font. Main thread.
+
+#include <QPushButton>
+#include <QString>
+
+/// Sets a button's caption, in a smaller font (down to 9 pixels) when it would be cut at the button's size; one that
+/// is cut even so stands whole in the tool tip.
+void setFittedCaption(QPushButton& button, const QString& caption);
+
+/// Text of a user or a file name on one line: control characters become blanks, and the marks that could turn the
+/// direction of what follows are taken out. Longer than `limit` characters it is cut.
+[[nodiscard]] QString onOneLine(const QString& text, qsizetype limit = 1000);
+
+/// A tool tip that shows its lines as they stand, also one that looks like markup.
+[[nodiscard]] QString plainToolTip(const QString& text);

@@ -1,0 +1,113 @@
+#include "support/EngineBench.h"
+
+#include <sqlite3.h>
+
+#include <QDir>
+
+#include "engine/EngineClock.h"
+#include "engine/UploadThread.h"
+#include "platform/Problems.h"
+#include "platform/SpecialFolder.h"
+#include "service/VantryUtil.h"
+#include "storage/LogDatabase.h"
+#include "storage/LogEntry.h"
+#include "storage/Preferences.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+EngineBench::EngineBench() : clock(Date().TotalSeconds()) {
+  DictionaryFile::setSolutionKey(u"KestrelMoonOVJT"_s);
+  UploadThread::allowAgain();
+  UploadThread::Enabled = true;
+  setEngineClock(&clock);
+  if (!service.start()) qFatal("%s", qPrintable(service.errorString()));
+  VantryUtil::setExtraCaFile(service.caFile());
+  VantryUtil::setAccountURL(service.url());
+  VantryUtil::loadAccountPreferences();
+  const PracticeService::Options options;
+  VantryUtil::prefs->setStringValue(u"SoapLogin"_s, options.login);
+  VantryUtil::prefs->setStringValue(u"SoapPassword"_s, options.password);
+  if (!SpecialFolder::createPrivate(SpecialFolder::ApplicationData()).ok()) qFatal("no data folder");
+  VantryUtil::ConnectToLogDatabase();
+  home.makeFolder(u"in"_s);
+  home.makeFolder(u"out"_s);
+}
+
+EngineBench::~EngineBench() {
+  service.release();
+  UploadThread::Enabled = false;
+  UploadThread::stop(5000);
+  VantryUtil::LogEntry::setRowObserver({});
+  UploaderTask::unload();
+  UploaderTask::setMountOperation({});
+  UploaderTask::setTriedAutoMount(false);
+  VantryUtil::logDB.reset();
+  VantryUtil::prefs.reset();
+  VantryUtil::setAccountURL({});
+  VantryUtil::setExtraCaFile({});
+  setEngineClock(nullptr);
+  for (const Problem& problem : Problems::present()) Problems::clear(problem.kind, problem.subject);
+  DictionaryFile::setSolutionKey({});
+}
+
+TaskPointer EngineBench::makeTask(const QString& name) const {
+  auto task = std::make_shared<UploaderTask>();
+  task->Name = name;
+  task->Warden = u"Print"_s;
+  task->Track = PracticeService::knownPrintTrack();
+  task->Extension = u".txt"_s;
+  task->inputFolderPath = home.path(u"in"_s);
+  task->outputFolderPath = home.path(u"out"_s);
+  return task;
+}
+
+void EngineBench::process(UploaderTask& task) {
+  task.updateStatus();
+  if (task.Status == UploaderTask::Fault || !task.PrepareToUpload()) return;
+  task.ProcessFiles();
+}
+
+QString EngineBench::drop(const QString& name, const QByteArray& content, const QString& folder) const {
+  return home.writeFile(folder + u'/' + name, content, Date().TotalSeconds() - clock.now().TotalSeconds() + 60);
+}
+
+void EngineBench::restart() {
+  if (!VantryUtil::prefs->save()) qFatal("the preferences can't be saved");
+  VantryUtil::loadAccountPreferences();
+}
+
+QList<EngineBench::Row> EngineBench::log() const {
+  sqlite3* db = nullptr;
+  QList<Row> rows;
+  const QByteArray path = SpecialFolder::ApplicationData().Child(u"VantryUploader.db"_s).bytes();
+  if (sqlite3_open_v2(path.constData(), &db, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK) {
+    sqlite3_stmt* query = nullptr;
+    sqlite3_prepare_v2(db, "select * from log order by _rowid", -1, &query, nullptr);
+    while (sqlite3_step(query) == SQLITE_ROW) {
+      Row row;
+      for (int i = 0; i < sqlite3_column_count(query); ++i)
+        row[QString::fromUtf8(sqlite3_column_name(query, i))] =
+            QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(query, i)));
+      rows << row;
+    }
+    sqlite3_finalize(query);
+  }
+  sqlite3_close(db);
+  return rows;
+}
+
+QStringList EngineBench::notes() const {
+  QStringList list;
+  for (const Row& row : log()) list << row[u"Notes"_s];
+  return list;
+}
+
+QStringList EngineBench::files(const QString& folder) const {
+  return QDir(home.path(folder)).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
+}
+
+QStringList EngineBench::received() const {
+  QStringList names;
+  for (const PracticeReceipt& receipt : service.receipts()) names << receipt.name;
+  return names;
+}

@@ -1,0 +1,86 @@
+#include <QCoreApplication>
+#include <QSet>
+#include <QTest>
+#include <QTranslator>
+
+#include "support/TestRunner.h"
+#include "text/VTULocalization.h"
+
+using namespace Qt::Literals::StringLiterals;
+using namespace VTULocalization;
+
+/// A language table of three keys, one of them with an empty translation.
+class ThreeTexts : public QTranslator {
+ public:
+  [[nodiscard]] bool isEmpty() const override { return false; }
+  [[nodiscard]] QString translate(const char*, const char* key, const char*, int) const override {
+    if (qstrcmp(key, "VTULocalization.klAdmin") == 0) return u"Verwaltung"_s;
+    if (qstrcmp(key, "EditTaskWindow.klPrefix") == 0) return u"Präfix"_s;
+    return qstrcmp(key, "VTULocalization.klCancel") == 0 ? u""_s : QString();
+  }
+};
+
+class tst_VTULocalization : public QObject {
+  Q_OBJECT
+ private slots:
+  void everyEntryHasItsOwnKeyAndAText() {
+    QList<QByteArray> keys;
+    for (const Entry& entry : entries()) {
+      QVERIFY2(!keys.contains(entry.key) && *entry.english, entry.key);
+      keys << entry.key;
+    }
+    const auto span = [&keys](const char* a, const char* b) { return int(keys.indexOf(b) - keys.indexOf(a)) + 1; };
+    QCOMPARE(span("VTULocalization.klAdmin", "VTULocalization.klVerifyDateStamp"), 68);
+    QCOMPARE(span("EditTaskWindow.klAddDatetoFileName", "EditTaskWindow.klSelectTrack"), 8);
+    QCOMPARE(span("VantryUtil.E002", "VantryUtil.EUnknownError"), 30);
+  }
+
+  void textsEasyToGetWrong_data() {
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("expected");
+    const auto row = [](const char* label, const QString& text, const QString& expected) {
+      QTest::newRow(label) << text << expected;
+    };
+    row("quitting has two real line feeds", klSureYouWantToQuit(),
+        u"Are you sure you want to quit?\n\nUploads will stop processing when the application quit."_s);
+    row("three points, not an ellipsis", klShowLog(), u"Show Log..."_s);
+    row("mounting failed, under another name", klCouldNotMount(), u"Error Mounting"_s);
+    row("no tasks, odd spelling", klNoTasksToSave(), u"There are no tasks avaible to backup"_s);
+    row("E008 has two blanks", VantryUtil::E008(),
+        u"Requested track not found. For auto-recognition mode check settings -  both application and website require "
+        "a perfect match."_s);
+    row("E015 names itself", VantryUtil::E015(), u"Unknown dryback value. (E015)"_s);
+    row("E023 says it twice", VantryUtil::E023(), u"Control Strip not foundControl Strip not found"_s);
+    row("the editor's own", EditTaskWindowText::klAddDatetoFileName(), u"Add Date to File Name"_s);
+  }
+  void textsEasyToGetWrong() {
+    QFETCH(QString, text);
+    QTEST(text, "expected");
+  }
+
+  void aTableReplacesOnlyWhatItHolds() {
+    {
+      ThreeTexts table;
+      QVERIFY(QCoreApplication::installTranslator(&table));
+      QCOMPARE(klAdmin() + u'|' + EditTaskWindowText::klPrefix(), u"Verwaltung|Präfix"_s);
+      QCOMPARE(klBackup() + u'|' + klCancel(), u"Backup|Cancel"_s);
+    }
+    QCOMPARE(klAdmin(), u"Admin"_s);
+  }
+
+  void everyProblemHasALineOfItsOwn() {
+    QSet<QString> lines;
+    int kind = 0;
+    for (; kind <= static_cast<int>(Problem::Kind::ServiceUnreachable); ++kind) {
+      const QString line = problemText({static_cast<Problem::Kind>(kind), u"SUBJECT"_s, u"DETAIL"_s});
+      QVERIFY2(!line.isEmpty() && !line.contains(u'$') && !line.contains(u'\n'), qPrintable(line));
+      lines.insert(line);
+    }
+    QCOMPARE(lines.size(), kind);
+    const QString odd = problemText({Problem::Kind::ExclusionTooCostly, u"Press $2"_s, u"a\r\nb\u2028c.txt"_s});
+    QVERIFY2(odd.startsWith(u"Task \"Press $2\" keeps back \"a  b c.txt\""), qPrintable(odd));
+  }
+};
+
+VANTRY_TEST(tst_VTULocalization);
+#include "tst_VTULocalization.moc"
