@@ -13,7 +13,7 @@ static constexpr int PauseBetweenFilesMs = 1000;
 static constexpr int PauseBetweenPiecesMs = 350;
 static constexpr int PiecesPerFile = 3;
 static constexpr int LookEveryMs = 250;
-static constexpr int WindowSettlesMs = 5000;  // the window repaints its counts every four seconds
+static constexpr int WindowSettlesMs = 9000;  // the window shows the end of a pass two beats of four seconds later
 static constexpr int EndLimitMs = 10000;
 
 static void say(const QString& line) {
@@ -27,8 +27,10 @@ PracticeRun::PracticeRun(const Settings& settings) : m_settings(settings), m_hom
     if (m_judged) return;
     m_allRight = judgeAll();
     const QString words = u"Not all files arrived within %1 seconds."_s.arg(m_settings.limitSeconds);
-    if (m_settings.watch) say(words);
-    else fail(words);
+    if (m_settings.watch)
+      say(words);
+    else
+      fail(words);
   });
   connect(&m_look, &QTimer::timeout, this, &PracticeRun::look);
   connect(&m_uploader, &QProcess::finished, this, &PracticeRun::uploaderEnded);

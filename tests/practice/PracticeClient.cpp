@@ -41,7 +41,9 @@ QByteArray PracticeClient::readSome(qsizetype count, int timeoutMs) {
   return some;
 }
 
-bool PracticeClient::endedInOrder() const { return ended() && m_socket.error() == QAbstractSocket::RemoteHostClosedError; }
+bool PracticeClient::endedInOrder() const {
+  return ended() && m_socket.error() == QAbstractSocket::RemoteHostClosedError;
+}
 
 QByteArray PracticeClient::post(const QByteArray& body, const QByteArray& path) {
   return "POST " + path + " HTTP/1.0\r\nAccept: */*\r\nHost: localhost\r\nContent-type: text/xml; charset=utf-8\r\n" +
@@ -82,9 +84,12 @@ QString returnOf(const QByteArray& reply) {
   bool inside = false;
   while (!xml.atEnd()) {
     xml.readNext();
-    if (xml.isStartElement() && xml.name() == "return"_L1 && text.isNull()) inside = true;
-    else if (xml.isEndElement()) inside = false;
-    else if (inside && xml.isCharacters()) text += xml.text();
+    if (xml.isStartElement() && xml.name() == "return"_L1 && text.isNull())
+      inside = true;
+    else if (xml.isEndElement())
+      inside = false;
+    else if (inside && xml.isCharacters())
+      text += xml.text();
   }
   return xml.hasError() ? QString() : text;
 }

@@ -79,7 +79,8 @@ void tst_Certificates::aClientRefusesEachFlaw_data() {
   QTest::newRow("not yet begun") << Flaw::NotYetValid << int(QSslError::CertificateNotYetValid);
   QTest::newRow("of another host") << Flaw::WrongHost << int(QSslError::HostNameMismatch);
   QTest::newRow("signed by itself") << Flaw::SelfSigned << int(QSslError::SelfSignedCertificate);
-  QTest::newRow("of an unknown authority") << Flaw::UnknownAuthority << int(QSslError::UnableToGetLocalIssuerCertificate);
+  QTest::newRow("of an unknown authority")
+      << Flaw::UnknownAuthority << int(QSslError::UnableToGetLocalIssuerCertificate);
 }
 
 void tst_Certificates::aClientRefusesEachFlaw() {
