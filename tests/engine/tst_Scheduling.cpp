@@ -33,7 +33,6 @@ class tst_Scheduling : public QObject {
     bench.drop(u"3a.txt"_s, "x", u"in-A"_s);
     bench.drop(u"c.txt"_s, "x", u"in-c"_s);
     UploaderTask::allTasks().at(2)->disabled = true;
-    UploadThread::Enabled = true;
     UploadThread::Start();
     QVERIFY(bench.service.waitForReceipts(3, 10'000));
     QTRY_VERIFY(!UploadThread::ProcessingNow());
@@ -51,7 +50,6 @@ class tst_Scheduling : public QObject {
       bench.drop(name + u"1.txt"_s, "x", u"in-"_s + name);
       bench.drop(name + u"2.txt"_s, "x", u"in-"_s + name);
     }
-    UploadThread::Enabled = true;
     bench.service.hold();
     UploadThread::Start();
     QVERIFY(bench.service.waitForHeld(1, 10'000));
@@ -99,7 +97,6 @@ class tst_Scheduling : public QObject {
     bench.drop(u"a.txt"_s);
     // Also the row that tells of the exception meets it again: nothing may come of that.
     VantryUtil::LogEntry::setRowObserver([](qint64) { throw std::runtime_error("planted"); });
-    UploadThread::Enabled = true;
     UploadThread::Start();
     QTRY_COMPARE(bench.log().size(), 2);
     QTRY_VERIFY(!UploadThread::ProcessingNow());

@@ -121,12 +121,6 @@ class tst_CopyFile : public QObject {
     QCOMPARE(TemporaryHome::readFile(m_target->NativePath()), QByteArray("somebody else's"));
   }
 
-  void aFolderThatCannotBeFlushedKeepsNoCopy() {
-    OddShare ops;
-    ops.folderSyncError = EIO;
-    verifyNothing(copyFileSafely(*m_source, m_version, *m_target, ops).error, EIO);
-  }
-
   void aSourceInAnotherVersionIsNotCopied() {
     FileVersion seen = m_version;
     seen.size += 1;

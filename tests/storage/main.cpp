@@ -1,4 +1,5 @@
 #include <sys/resource.h>
+#include <unistd.h>
 
 #include <QCoreApplication>
 #include <csignal>
@@ -7,14 +8,16 @@
 #include "storage/LogDatabase.h"
 #include "support/TestRunner.h"
 
-/// A process that a test may kill, or whose files may not grow beyond `largest` bytes, as on a full disk: writes rows
-/// into the log at `path`, prints each id once its row is written, and in the end why no more could be.
+/// A process that a test may kill, or whose files may not grow beyond `largest` bytes, as on a full disk: prints
+/// its id, then that of each row it has written into the log at `path`, and in the end why no more could be.
 static int writeLog(const QString& path, const QString& largest) {
   if (!largest.isEmpty()) {
     std::signal(SIGXFSZ, SIG_IGN);
     const rlimit limit{largest.toULong(), RLIM_INFINITY};
     setrlimit(RLIMIT_FSIZE, &limit);
   }
+  std::printf("%d\n", static_cast<int>(getpid()));
+  std::fflush(stdout);
   const auto opened = LogDatabase::open(*FolderItem::fromNativePath(path));
   if (!opened.database) return 1;
   QString error;

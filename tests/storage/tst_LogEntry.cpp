@@ -13,107 +13,81 @@ using namespace VantryUtil;
 
 class tst_LogEntry : public QObject {
   Q_OBJECT
- private slots:
-  void cleanup();
-
-  void whatWasNotStoredStandsAsNA_data();
-  void whatWasNotStoredStandsAsNA();
-  void theRowTellsTheLocalTimeOfWriting();
-  void observersHearOfRowsThatWereWritten();
-  void aLostRowIsToldUntilOneIsWrittenAgain();
-  void withoutALogNothingHappens();
-  void anUnusableFolderIsToldAndNothingIsLogged();
-
- private:
   [[nodiscard]] static QString logPath() {
     return SpecialFolder::ApplicationData().Child(u"VantryUploader.db"_s).NativePath();
   }
+ private slots:
+  void cleanup() {
+    logDB.reset();
+    LogEntry::setRowObserver({});
+    for (const Problem& problem : Problems::present()) Problems::clearKind(problem.kind);
+  }
+
+  void whatWasNotStoredStandsAsNA_data() {
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QString>("row");
+    QTest::newRow("no key at all") << u""_s << u"1|n/a|n/a|n/a|n/a|n/a|n/a"_s;
+    QTest::newRow("notes alone") << u"Notes"_s << u"1|n/a|n/a|n/a|n/a|n/a|<Notes>"_s;
+    QTest::newRow("all six, in any order, and others that are ignored")
+        << u"Track Notes NewName _rowid OutputFolder EventTime InputFolder OriginalName"_s
+        << u"1|<OriginalName>|<NewName>|<InputFolder>|<OutputFolder>|<Track>|<Notes>"_s;
+  }
+  void whatWasNotStoredStandsAsNA() {
+    const TemporaryHome home;
+    ConnectToLogDatabase();
+    QFETCH(QString, stored);
+    LogEntry entry;
+    for (const QString& key : stored.split(u' ')) entry.setValue(key, u'<' + key + u'>');
+    const auto now = [] { return QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH:mm:ss"); };
+    const QString before = now();
+    entry.WriteToLog();
+    Sql viewer(logPath());
+    QTEST(viewer
+              .run("select _rowid || '|' || OriginalName || '|' || NewName || '|' || InputFolder || '|' || "
+                   "OutputFolder || '|' || Track || '|' || Notes from log")
+              .join(u'+'),
+          "row");
+    const QString written = viewer.run("select EventTime from log").join(u'+');
+    QVERIFY2(before <= written && written <= now(), qPrintable(written));
+  }
+
+  void aLostRowIsToldUntilOneIsWrittenAgain() {
+    const TemporaryHome home;
+    ConnectToLogDatabase();
+    QList<qint64> heard;
+    LogEntry::setRowObserver([&heard](qint64 rowid) { heard << rowid; });
+    LogEntry().WriteToLog();
+    Sql stranger(logPath());
+    stranger.run("alter table log rename to elsewhere");
+    LogEntry().WriteToLog();
+    LogEntry().WriteToLog();
+    const auto problems = Problems::present();
+    QVERIFY(problems.size() == 1 && problems[0].kind == Problem::Kind::LogRowLost);
+    QVERIFY2(problems[0].detail.contains(u"no such table"), qPrintable(problems[0].detail));
+    stranger.run("alter table elsewhere rename to log");
+    LogEntry().WriteToLog();
+    QVERIFY(Problems::present().isEmpty());
+    QCOMPARE(heard, (QList<qint64>{1, 2}));
+  }
+
+  void aDamagedOrUnusableLogIsTold_data() {
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<Problem::Kind>("kind");
+    QTest::newRow("the folder is a file: nothing is logged") << u"data"_s << Problem::Kind::LogUnavailable;
+    QTest::newRow("the log is text: a new one begins")
+        << u"data/vantry-uploader/VantryUploader.db"_s << Problem::Kind::LogSetAside;
+  }
+  void aDamagedOrUnusableLogIsTold() {
+    const TemporaryHome home;
+    QFETCH(QString, file);
+    home.writeFile(file, "not what should be here");
+    ConnectToLogDatabase();
+    LogEntry().WriteToLog();
+    QCOMPARE(Problems::present().size(), 1);
+    QTEST(Problems::present()[0].kind, "kind");
+    QCOMPARE(logDB == nullptr, Problems::present()[0].subject.isEmpty());
+  }
 };
-
-void tst_LogEntry::cleanup() {
-  logDB.reset();
-  LogEntry::setRowObserver({});
-  for (const Problem& problem : Problems::present()) Problems::clearKind(problem.kind);
-}
-
-void tst_LogEntry::whatWasNotStoredStandsAsNA_data() {
-  QTest::addColumn<QStringList>("stored");
-  QTest::addColumn<QString>("row");
-  QTest::newRow("no key at all") << QStringList{} << u"1|n/a|n/a|n/a|n/a|n/a|n/a"_s;
-  QTest::newRow("notes alone") << QStringList{u"Notes"_s} << u"1|n/a|n/a|n/a|n/a|n/a|<Notes>"_s;
-  QTest::newRow("all six, in any order, and others that are ignored")
-      << QStringList{u"Track"_s,        u"Notes"_s,     u"NewName"_s,     u"_rowid"_s,
-                     u"OutputFolder"_s, u"EventTime"_s, u"InputFolder"_s, u"OriginalName"_s}
-      << u"1|<OriginalName>|<NewName>|<InputFolder>|<OutputFolder>|<Track>|<Notes>"_s;
-}
-
-void tst_LogEntry::whatWasNotStoredStandsAsNA() {
-  const TemporaryHome home;
-  ConnectToLogDatabase();
-  QFETCH(QStringList, stored);
-  LogEntry entry;
-  for (const QString& key : stored) entry.setValue(key, u'<' + key + u'>');
-  entry.WriteToLog();
-  const QStringList rows = Sql(logPath()).run(
-      "select _rowid || '|' || OriginalName || '|' || NewName || '|' || InputFolder || '|' || OutputFolder || '|' || "
-      "Track || '|' || Notes from log where EventTime glob '2[0-9]*'");
-  QFETCH(QString, row);
-  QCOMPARE(rows, QStringList{row});
-}
-
-void tst_LogEntry::theRowTellsTheLocalTimeOfWriting() {
-  const TemporaryHome home;
-  ConnectToLogDatabase();
-  const auto now = [] { return QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH:mm:ss"); };
-  const QString before = now();
-  LogEntry().WriteToLog();
-  const QString written = Sql(logPath()).run("select EventTime from log").value(0);
-  QVERIFY2(before <= written && written <= now(), qPrintable(written));
-}
-
-void tst_LogEntry::observersHearOfRowsThatWereWritten() {
-  const TemporaryHome home;
-  ConnectToLogDatabase();
-  QList<qint64> heard;
-  LogEntry::setRowObserver([&heard](qint64 rowid) { heard << rowid; });
-  LogEntry().WriteToLog();
-  LogEntry().WriteToLog();
-  Sql(logPath()).run("drop table log");
-  LogEntry().WriteToLog();
-  QCOMPARE(heard, (QList<qint64>{1, 2}));
-}
-
-void tst_LogEntry::aLostRowIsToldUntilOneIsWrittenAgain() {
-  const TemporaryHome home;
-  ConnectToLogDatabase();
-  Sql stranger(logPath());
-  stranger.run("alter table log rename to elsewhere");
-  LogEntry().WriteToLog();
-  LogEntry().WriteToLog();
-  const auto problems = Problems::present();
-  QCOMPARE(problems.size(), 1);
-  QVERIFY(problems[0].kind == Problem::Kind::LogRowLost);
-  QVERIFY2(problems[0].detail.contains(u"no such table"), qPrintable(problems[0].detail));
-  stranger.run("alter table elsewhere rename to log");
-  LogEntry().WriteToLog();
-  QVERIFY(Problems::present().isEmpty());
-}
-
-void tst_LogEntry::withoutALogNothingHappens() {
-  LogEntry::setRowObserver([](qint64) { QFAIL("a row that nobody wrote"); });
-  LogEntry().WriteToLog();
-  QVERIFY(Problems::present().isEmpty());
-}
-
-void tst_LogEntry::anUnusableFolderIsToldAndNothingIsLogged() {
-  const TemporaryHome home;
-  home.writeFile(u"data"_s, "a file where the folder should be");
-  ConnectToLogDatabase();
-  QVERIFY(!logDB);
-  QCOMPARE(Problems::present().size(), 1);
-  QVERIFY(Problems::present()[0].kind == Problem::Kind::LogUnavailable);
-  QVERIFY(Problems::present()[0].detail.contains(u"folder"));
-}
 
 VANTRY_TEST(tst_LogEntry);
 #include "tst_LogEntry.moc"
