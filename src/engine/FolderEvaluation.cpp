@@ -20,32 +20,45 @@ bool isAscii(QByteArrayView bytes) {
   return std::all_of(bytes.begin(), bytes.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
-/// Tests the ending on the raw bytes where both are plain ASCII, which spares nearly all names the conversion to text.
-class EndingTest {
+/// Judges names by their raw bytes as far as these tell, which spares nearly all names the conversion to text.
+class RawNameTest {
  public:
-  explicit EndingTest(const QString& extension)
-      : m_text(extension), m_bytes(extension.toUtf8()), m_ascii(isAscii(m_bytes)) {}
+  enum class Verdict { Fails, Passes, NeedsText };
 
-  [[nodiscard]] bool mayPass(QByteArrayView name) const {
-    if (!m_ascii || name.size() < m_bytes.size()) return !m_ascii || !isAscii(name);
-    const QByteArrayView tail = name.last(m_bytes.size());
-    return !isAscii(tail) || qstrnicmp(tail.data(), m_bytes.constData(), m_bytes.size()) == 0;
+  explicit RawNameTest(const UploaderTask& task)
+      : m_ending(task.Extension.toUtf8()),
+        m_ascii(isAscii(m_ending)),
+        m_endingDecides(isWholeEnding(m_ending) && task.FileName.trimmed().isEmpty() &&
+                        task.ExclusionPattern().trimmed().isEmpty()) {}
+
+  [[nodiscard]] Verdict judge(QByteArrayView name) const {
+    if (!m_ascii) return Verdict::NeedsText;
+    if (name.size() < m_ending.size()) return isAscii(name) ? Verdict::Fails : Verdict::NeedsText;
+    const QByteArrayView tail = name.last(m_ending.size());
+    if (!isAscii(tail)) return Verdict::NeedsText;
+    if (qstrnicmp(tail.data(), m_ending.constData(), m_ending.size()) != 0) return Verdict::Fails;
+    return m_endingDecides ? Verdict::Passes : Verdict::NeedsText;
   }
-  [[nodiscard]] bool passes(const QString& name) const { return name.endsWith(m_text, Qt::CaseInsensitive); }
 
  private:
-  QString m_text;
-  QByteArray m_bytes;
+  /// A name that ends so has this ending, from its last dot on, as FileNameMatch() takes it.
+  static bool isWholeEnding(const QByteArray& ending) {
+    return ending.startsWith('.') && ending.lastIndexOf('.') == 0 && !ending.mid(1).trimmed().isEmpty();
+  }
+
+  QByteArray m_ending;
   bool m_ascii;
+  bool m_endingDecides;
 };
 
 FolderScanResult listFolder(const UploaderTask& task, double above) {
-  const EndingTest ending(task.Extension);
+  const RawNameTest rawTest(task);
   FolderScanRules rules;
   rules.nameWanted = [&](QByteArrayView raw) {
-    if (!ending.mayPass(raw)) return false;
+    const RawNameTest::Verdict verdict = rawTest.judge(raw);
+    if (verdict != RawNameTest::Verdict::NeedsText) return verdict == RawNameTest::Verdict::Passes;
     const QString name = QString::fromUtf8(raw);
-    return ending.passes(name) && task.FileNameMatch(name);
+    return name.endsWith(task.Extension, Qt::CaseInsensitive) && task.FileNameMatch(name);
   };
   rules.dateWanted = [above](qint64 mtimeNs) { return secondsOf(mtimeNs) > above; };
   rules.stopRequested = [] { return UploadThread::stopping(); };
