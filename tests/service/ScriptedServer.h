@@ -1,0 +1,54 @@
+#pragma once
+// A TCP server that plays a script to each connection, on a thread of its own: for bytes that no decent server would
+// send, at moments that none would choose. Every wait of a script ends when the object goes.
+
+#include <QByteArray>
+#include <QString>
+#include <atomic>
+#include <functional>
+#include <mutex>
+#include <thread>
+
+class ScriptedServer {
+ public:
+  class Peer {
+   public:
+    QByteArray readTo(const QByteArray& ending);  ///< up to and including `ending`, or what came before the end
+    QByteArray readCount(qsizetype count);
+    void write(const QByteArray& bytes);
+    void holdUntilItLeaves();     ///< reads and drops what comes until the client has closed
+    bool wait(int milliseconds);  ///< false if the server is being taken down
+    void reset();                 ///< ends the connection with a reset
+
+   private:
+    friend class ScriptedServer;
+    Peer(const ScriptedServer& server, int socket) : m_server(server), m_socket(socket) {}
+    ~Peer();
+    bool readMore();
+    bool await(short events, int milliseconds = -1) const;
+    const ScriptedServer& m_server;
+    int m_socket;
+    QByteArray m_buffer;
+  };
+  using Script = std::function<void(Peer&)>;
+
+  explicit ScriptedServer(Script script);
+  ~ScriptedServer();
+  ScriptedServer(const ScriptedServer&) = delete;
+  ScriptedServer& operator=(const ScriptedServer&) = delete;
+
+  [[nodiscard]] int port() const { return m_port; }
+  [[nodiscard]] QString url(const QString& path) const;
+  /// A script that takes a request without content, answers and closes.
+  static Script answer(const QByteArray& reply);
+
+ private:
+  void run();
+
+  Script m_script;
+  int m_listener = -1, m_goingDown = -1, m_port = 0;
+  std::thread m_thread;
+};
+
+/// A port on 127.0.0.1 on which nobody listens.
+[[nodiscard]] int closedPort();
