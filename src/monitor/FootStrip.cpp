@@ -86,8 +86,9 @@ StripLine composeStrip(const StripInput& input) {
   if (!input.notice.isEmpty()) return withDetails(Tone::Quiet, onOneLine(input.notice));
   if (input.activity.sending) return withDetails(Tone::Sending, sendingText(input.activity));
   if (!wrong.isEmpty()) {
-    const QString more = wrong.size() == 1 ? QString() : fillPlaceholders(MonitorText::klStripAndMore(),
-                                                                          {QString::number(wrong.size() - 1)});
+    const QString more = wrong.size() == 1
+                             ? QString()
+                             : fillPlaceholders(MonitorText::klStripAndMore(), {QString::number(wrong.size() - 1)});
     return {Tone::Wrong, wrong.first(), more, wrong.join(u'\n')};
   }
   switch (input.phase) {
@@ -98,12 +99,14 @@ StripLine composeStrip(const StripInput& input) {
     case StartPhase::Running:
       break;
   }
-  return withDetails(Tone::Well, fillPlaceholders(VTULocalization::klStripAllWell(),
-                                                  {momentText(input.wellSince, input.now)}));
+  return withDetails(Tone::Well,
+                     fillPlaceholders(VTULocalization::klStripAllWell(), {momentText(input.wellSince, input.now)}));
 }
 
 QDateTime WellSince::update(const StripInput& input) {
-  if (input.phase != StartPhase::Running || !isWell(input)) m_since = QDateTime();
-  else if (!m_since.isValid()) m_since = input.now;
+  if (input.phase != StartPhase::Running || !isWell(input))
+    m_since = QDateTime();
+  else if (!m_since.isValid())
+    m_since = input.now;
   return m_since;
 }

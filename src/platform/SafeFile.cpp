@@ -163,7 +163,7 @@ int copyInKernel(FileOps& ops, int from, HiddenFile& to, qint64 size) {
 }
 
 int copyByReading(FileOps& ops, int from, HiddenFile& to, qint64 size) {
-  if (!rewind(from) || !rewind(to.fd()) || ::ftruncate(to.fd(), 0) != 0) return errno;
+  if (!rewind(from) || !rewind(to.fd())) return errno;
   const auto buffer = std::make_unique_for_overwrite<char[]>(kPiece);
   for (qint64 left = size; left > 0;) {
     const size_t piece = static_cast<size_t>(std::min<qint64>(left, kPiece));

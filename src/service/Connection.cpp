@@ -56,7 +56,7 @@ ssize_t Connection::receive(char* buffer, size_t size) {
 
 ssize_t Connection::transmit(const char* data, size_t size) {
   ssize_t count;
-  do count = send(m_socket, data, size, MSG_NOSIGNAL);
+  do count = send(m_socket, data, size, MSG_NOSIGNAL | (m_moreFollows ? MSG_MORE : 0));
   while (count < 0 && errno == EINTR);
   return count;
 }
@@ -78,7 +78,8 @@ Connection::Outcome Connection::read(char* buffer, qsizetype size) {
   return {Io::Broken, 0};
 }
 
-Connection::Outcome Connection::write(const char* data, qsizetype size) {
+Connection::Outcome Connection::write(const char* data, qsizetype size, bool moreFollows) {
+  m_moreFollows = moreFollows;
   if (m_ssl) {
     ERR_clear_error();
     size_t count = 0;

@@ -41,7 +41,8 @@ class Connection {
                                      Deadline deadline);
 
   [[nodiscard]] Outcome read(char* buffer, qsizetype size);
-  [[nodiscard]] Outcome write(const char* data, qsizetype size);
+  /// With `moreFollows` the system may hold a short segment back for a moment, which spares the peer a wake-up each.
+  [[nodiscard]] Outcome write(const char* data, qsizetype size, bool moreFollows = false);
   /// Waits until read(), or write() if `writing`, is worth calling again.
   [[nodiscard]] WaitOutcome wait(bool writing, Deadline deadline);
 
@@ -71,6 +72,7 @@ class Connection {
   bool m_tlsError = false;
   bool m_peerClosed = false;  ///< the socket has told the end of the stream
   bool m_sendFailed = false;  ///< the socket takes no more; OpenSSL is told "not now" so that it can still read
+  bool m_moreFollows = false;
   bool m_readWantsOutput = false;
   bool m_writeWantsInput = false;
 };

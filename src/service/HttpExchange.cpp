@@ -249,15 +249,19 @@ bool HttpExchange::nextPiece() {
 }
 
 bool HttpExchange::sendMore() {
-  const qsizetype left = m_output.size() - m_outputSent;
-  const Connection::Outcome outcome = m_connection.write(m_output.constData() + m_outputSent, left);
-  if (outcome.io == Connection::Io::Again) return false;
-  if (outcome.io != Connection::Io::Progress) {
-    m_writesFailed = true;  // what the peer said before it closed is still to be read
-    return true;
+  bool moved = false;
+  while (m_outputSent < m_output.size()) {
+    const qsizetype left = m_output.size() - m_outputSent;
+    const Connection::Outcome outcome =
+        m_connection.write(m_output.constData() + m_outputSent, left, m_contentLeft > 0);
+    if (outcome.io == Connection::Io::Again) return moved;
+    moved = true;
+    if (outcome.io != Connection::Io::Progress) {
+      m_writesFailed = true;  // what the peer said before it closed is still to be read
+      return true;
+    }
+    m_outputSent += outcome.bytes;
   }
-  m_outputSent += outcome.bytes;
-  if (m_outputSent < m_output.size()) return true;
   m_output.resize(0);
   m_outputSent = 0;
   if (m_contentLeft == 0)

@@ -125,6 +125,5 @@ class tst_FootStrip : public QObject {
   }
 };
 
-Q_DECLARE_METATYPE(StripInput)
-VANTRY_TEST(tst_FootStrip)
+VANTRY_TEST(tst_FootStrip);
 #include "tst_FootStrip.moc"

@@ -74,8 +74,7 @@ class tst_MainWindowLife : public QObject {
     WindowFixture fixture;
     auto* const ticks = fixture.control<QTimer>("StatusRefresher");
     QCOMPARE(ticks->interval(), 4000);
-    WindowFixture::storeTask(u"A"_s, u"a.vnt"_s);
-    UploaderTask::Load();
+    WindowFixture::loadOneTask();
     fixture.window().ListTasks();
     const auto picture = [&fixture] {
       return fixture.list()->model()->index(0, 0).data(TaskListModel::CellTagRole).toInt();
@@ -92,7 +91,7 @@ class tst_MainWindowLife : public QObject {
 
   void closingAsks() {
     WindowFixture fixture;
-    UploaderTask::TaskDirectory();
+    (void)UploaderTask::TaskDirectory();  // makes the folder
     const QString marked = fixture.home.writeFile(u"data/vantry-uploader/Uploader Tasks/x.del"_s, "x");
     fixture.window().show();
     const Answer no(QMessageBox::No);
@@ -123,5 +122,5 @@ class tst_MainWindowLife : public QObject {
   }
 };
 
-VANTRY_TEST(tst_MainWindowLife)
+VANTRY_TEST(tst_MainWindowLife);
 #include "tst_MainWindowLife.moc"

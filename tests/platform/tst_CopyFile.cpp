@@ -1,6 +1,4 @@
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <QDir>
 #include <QFile>
@@ -16,57 +14,34 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// How a share may carry out what a copy asks of it.
-class OddShare : public FileOps {
- public:
-  int copyError = 0;                ///< of copy_file_range; 0 for none
-  bool copiesNothing = false;       ///< copy_file_range reports the end at once
-  bool pretendsToCopy = false;      ///< copy_file_range reports bytes that never arrive
-  int exclusiveError = 0;           ///< of renameat2; 0 for none
-  int linkError = 0;                ///< of link; 0 for none
-  bool flushesFolders = true;       ///< or reports an error
-  std::function<void()> meanwhile;  ///< happens before the copy is flushed
+// How a share may carry out what a copy asks of it, and what may happen meanwhile.
+struct OddShare : FileOps {
+  int copyError = 0, exclusiveError = 0, linkError = 0, folderSyncError = 0;  ///< errno; 0 for none
+  std::optional<bool> pretendsToCopy;  ///< copy_file_range does nothing and reports all, or nothing
+  std::function<void()> whenCopying = [] {}, whenSyncing = [] {};
 
   ssize_t copyRange(int from, int to, size_t size) override {
-    if (pretendsToCopy) return static_cast<ssize_t>(size);
-    if (copiesNothing) return 0;
-    return copyError != 0 ? refuse(copyError) : FileOps::copyRange(from, to, size);
+    std::exchange(whenCopying, [] {})();
+    if (pretendsToCopy) return *pretendsToCopy ? static_cast<ssize_t>(size) : 0;
+    return refuses(copyError) ? -1 : FileOps::copyRange(from, to, size);
   }
   int sync(int fd) override {
     struct stat info {};
-    if (::fstat(fd, &info) == 0 && S_ISDIR(info.st_mode) && !flushesFolders) return refuse(EIO);
-    if (S_ISREG(info.st_mode) && meanwhile) meanwhile();
-    return FileOps::sync(fd);
+    if (::fstat(fd, &info) == 0 && S_ISREG(info.st_mode)) whenSyncing();
+    return S_ISDIR(info.st_mode) && refuses(folderSyncError) ? -1 : FileOps::sync(fd);
   }
 
  protected:
   int renameExclusive(const char* from, const char* to) override {
-    return exclusiveError != 0 ? refuse(exclusiveError) : FileOps::renameExclusive(from, to);
+    return refuses(exclusiveError) ? -1 : FileOps::renameExclusive(from, to);
   }
-  int link(const char* from, const char* to) override {
-    return linkError != 0 ? refuse(linkError) : FileOps::link(from, to);
-  }
+  int link(const char* from, const char* to) override { return refuses(linkError) ? -1 : FileOps::link(from, to); }
 
  private:
-  static int refuse(int error) {
-    errno = error;
-    return -1;
-  }
+  static bool refuses(int error) { return (errno = error) != 0; }
 };
 
-// Something happens to the source when the copy's first bytes are asked for.
-class RacingOps : public FileOps {
- public:
-  explicit RacingOps(std::function<void()> action) : m_action(std::move(action)) {}
-  ssize_t copyRange(int from, int to, size_t size) override {
-    if (m_action) std::exchange(m_action, nullptr)();
-    return FileOps::copyRange(from, to, size);
-  }
-
- private:
-  std::function<void()> m_action;
-};
-
+using Make = std::function<void(OddShare&)>;
 const QByteArray kContent = QByteArray("patch;C;M;Y;K\n").repeated(50'000);
 
 }  // namespace
@@ -84,125 +59,88 @@ class tst_CopyFile : public QObject {
     m_version = versionOf(*m_source).value();
   }
 
-  void aCopyKeepsContentAndDateAndHasACommonMode() {
+  void aCopyHasTheModeOfAnyNewFile() {
     const mode_t before = ::umask(027);
-    const IoResult result = copyFileSafely(*m_source, m_version, *m_target);
+    const int error = copyFileSafely(*m_source, m_version, *m_target).error;
     ::umask(before);
-    QVERIFY2(result.ok(), qPrintable(result.message()));
-    verifyWhole();
     struct stat info {};
     QCOMPARE(::stat(m_target->bytes().constData(), &info), 0);
     QCOMPARE(info.st_mode & 07777, 0640u);
-    QCOMPARE(TemporaryHome::readFile(m_source->NativePath()), kContent);
+    verifyWhole(error);
   }
 
   void eachFailingCallLeavesNoTrace() {
     FailingFileOps counter;
     QVERIFY(copyFileSafely(*m_source, m_version, *m_target, counter).ok());
-    QVERIFY(counter.calls >= 10);
     const int lastTwoCloses = counter.calls - 2;
+    QVERIFY(lastTwoCloses >= 8);
     for (int call = 0; call < counter.calls; ++call) {
-      QVERIFY(QFile::remove(m_target->NativePath()) || call > 0);
+      QFile::remove(m_target->NativePath());
       FailingFileOps ops;
       ops.failAtCall = call;
-      const IoResult result = copyFileSafely(*m_source, m_version, *m_target, ops);
-      if (call >= lastTwoCloses) {
-        QVERIFY2(result.ok(), "closing what was only read loses nothing");
-        verifyWhole();
-        QVERIFY(QFile::remove(m_target->NativePath()));
-      } else {
-        QVERIFY2(result.error == ENOSPC, qPrintable(u"call %1"_s.arg(call)));
-        QCOMPARE(namesInOutput(), QStringList());
-      }
+      const int error = copyFileSafely(*m_source, m_version, *m_target, ops).error;
+      if (call >= lastTwoCloses)
+        verifyWhole(error);  // closing what was only read loses nothing
+      else
+        verifyNothing(error, ENOSPC);
     }
   }
 
-  void aFullDiskLeavesNoTrace_data() {
-    QTest::addColumn<int>("room");
-    QTest::newRow("full already") << 0;
-    QTest::newRow("after a byte") << 1;
-    QTest::newRow("a byte short") << static_cast<int>(kContent.size()) - 1;
-  }
   void aFullDiskLeavesNoTrace() {
-    QFETCH(int, room);
-    FailingFileOps ops;
-    ops.bytesUntilFull = room;
-    QCOMPARE(copyFileSafely(*m_source, m_version, *m_target, ops).error, ENOSPC);
-    QCOMPARE(namesInOutput(), QStringList());
+    for (const long room : {0L, 1L, static_cast<long>(kContent.size()) - 1}) {
+      FailingFileOps ops;
+      ops.bytesUntilFull = room;
+      verifyNothing(copyFileSafely(*m_source, m_version, *m_target, ops).error, ENOSPC);
+    }
   }
 
   void oddSharesAreCopiedTo_data() {
-    QTest::addColumn<std::function<void(OddShare&)>>("make");
-    using Make = std::function<void(OddShare&)>;
+    QTest::addColumn<Make>("make");
     QTest::newRow("across file systems") << Make([](OddShare& s) { s.copyError = EXDEV; });
-    QTest::newRow("no copy in the kernel") << Make([](OddShare& s) { s.copyError = EOPNOTSUPP; });
-    QTest::newRow("the kernel copies nothing") << Make([](OddShare& s) { s.copiesNothing = true; });
+    QTest::newRow("the kernel copies nothing") << Make([](OddShare& s) { s.pretendsToCopy = false; });
     QTest::newRow("the kernel reports bytes that never arrive") << Make([](OddShare& s) { s.pretendsToCopy = true; });
     QTest::newRow("no exclusive rename") << Make([](OddShare& s) { s.exclusiveError = EINVAL; });
-    QTest::newRow("no exclusive rename and no links") << Make([](OddShare& s) {
-      s.exclusiveError = EINVAL;
-      s.linkError = EPERM;
-    });
+    QTest::newRow("no links either") << Make([](OddShare& s) { s.exclusiveError = EINVAL, s.linkError = EPERM; });
+    QTest::newRow("no flushing of folders") << Make([](OddShare& s) { s.folderSyncError = EINVAL; });
   }
   void oddSharesAreCopiedTo() {
-    QFETCH(std::function<void(OddShare&)>, make);
+    QFETCH(Make, make);
     OddShare ops;
     make(ops);
-    const IoResult result = copyFileSafely(*m_source, m_version, *m_target, ops);
-    QVERIFY2(result.ok(), qPrintable(result.message()));
-    verifyWhole();
+    verifyWhole(copyFileSafely(*m_source, m_version, *m_target, ops).error);
   }
 
   void aFileThatTookTheNameMeanwhileIsNotReplaced_data() { oddSharesAreCopiedTo_data(); }
   void aFileThatTookTheNameMeanwhileIsNotReplaced() {
-    QFETCH(std::function<void(OddShare&)>, make);
+    QFETCH(Make, make);
     OddShare ops;
     make(ops);
-    ops.meanwhile = [this] { m_home->writeFile(u"out/copy.txt"_s, "somebody else's"); };
+    ops.whenSyncing = [this] { m_home->writeFile(u"out/copy.txt"_s, "somebody else's"); };
     QCOMPARE(copyFileSafely(*m_source, m_version, *m_target, ops).error, EEXIST);
     QCOMPARE(namesInOutput(), QStringList{u"copy.txt"_s});
     QCOMPARE(TemporaryHome::readFile(m_target->NativePath()), QByteArray("somebody else's"));
   }
 
-  void aTargetThatExistsIsNotReplaced() {
-    m_home->writeFile(u"out/copy.txt"_s, "the user's");
-    QCOMPARE(copyFileSafely(*m_source, m_version, *m_target).error, EEXIST);
-    QCOMPARE(TemporaryHome::readFile(m_target->NativePath()), QByteArray("the user's"));
-  }
-
-  void aFolderThatCannotBeFlushedKeepsNoCopy() {
-    OddShare ops;
-    ops.flushesFolders = false;
-    QCOMPARE(copyFileSafely(*m_source, m_version, *m_target, ops).error, EIO);
-    QCOMPARE(namesInOutput(), QStringList());
-  }
-
-  void aSourceInAnotherVersionIsNotCopied_data() {
-    QTest::addColumn<qint64>("sizeMoved");
-    QTest::addColumn<qint64>("dateMoved");
-    QTest::newRow("grown by a byte") << qint64{1} << qint64{0};
-    QTest::newRow("dated a nanosecond later") << qint64{0} << qint64{1};
-  }
   void aSourceInAnotherVersionIsNotCopied() {
-    QFETCH(qint64, sizeMoved);
-    QFETCH(qint64, dateMoved);
-    const FileVersion seen{m_version.size - sizeMoved, m_version.mtimeNs - dateMoved};
-    QCOMPARE(copyFileSafely(*m_source, seen, *m_target).error, ESTALE);
-    QCOMPARE(namesInOutput(), QStringList());
+    FileVersion seen = m_version;
+    seen.size += 1;
+    verifyNothing(copyFileSafely(*m_source, seen, *m_target).error, ESTALE);
+    seen = m_version;
+    seen.mtimeNs += 1;
+    verifyNothing(copyFileSafely(*m_source, seen, *m_target).error, ESTALE);
   }
 
   void aSourceThatChangesDuringTheCopyIsNotKept_data() {
-    QTest::addColumn<int>("newSize");
-    QTest::newRow("grows") << static_cast<int>(kContent.size()) + 1;
-    QTest::newRow("shrinks") << static_cast<int>(kContent.size()) / 2;
-    QTest::newRow("is emptied") << 0;
-    QTest::newRow("is rewritten in the same size") << static_cast<int>(kContent.size());
+    QTest::addColumn<qsizetype>("newSize");
+    QTest::newRow("grows") << kContent.size() + 1;
+    QTest::newRow("shrinks") << kContent.size() / 2;
+    QTest::newRow("is rewritten in the same size") << kContent.size();
   }
   void aSourceThatChangesDuringTheCopyIsNotKept() {
-    QFETCH(int, newSize);
-    RacingOps ops([&] { m_home->writeFile(u"scan.txt"_s, QByteArray(newSize, 'x')); });
-    QCOMPARE(copyFileSafely(*m_source, m_version, *m_target, ops).error, ESTALE);
-    QCOMPARE(namesInOutput(), QStringList());
+    QFETCH(qsizetype, newSize);
+    OddShare ops;
+    ops.whenCopying = [&] { m_home->writeFile(u"scan.txt"_s, QByteArray(newSize, 'x')); };
+    verifyNothing(copyFileSafely(*m_source, m_version, *m_target, ops).error, ESTALE);
   }
 
   void sourcesThatAreNoFile_data() {
@@ -211,29 +149,28 @@ class tst_CopyFile : public QObject {
     QTest::newRow("a fifo that nobody writes") << u"fifo"_s << EINVAL;
     QTest::newRow("a folder") << u"out"_s << EISDIR;
     QTest::newRow("a link to itself") << u"loop"_s << ELOOP;
-    QTest::newRow("gone") << u"gone"_s << ENOENT;
   }
   void sourcesThatAreNoFile() {
     QFETCH(QString, name);
+    QFETCH(int, error);
     QCOMPARE(::mkfifo(m_home->item(u"fifo"_s).bytes().constData(), 0600), 0);
     QVERIFY(QFile::link(u"loop"_s, m_home->path(u"loop"_s)));
-    QTEST(copyFileSafely(m_home->item(name), m_version, *m_target).error, "error");
-    QCOMPARE(namesInOutput(), QStringList());
-  }
-
-  void anOutputFolderThatIsGoneIsToldApart() {
-    QCOMPARE(copyFileSafely(*m_source, m_version, m_home->item(u"gone/copy.txt"_s)).error, ENOENT);
+    verifyNothing(copyFileSafely(m_home->item(name), m_version, *m_target).error, error);
   }
 
  private:
-  void verifyWhole() const {
+  void verifyWhole(int error) const {
+    QCOMPARE(error, 0);
     QCOMPARE(namesInOutput(), QStringList{u"copy.txt"_s});
     QCOMPARE(versionOf(*m_target), std::optional(m_version));
     QCOMPARE(TemporaryHome::readFile(m_target->NativePath()), kContent);
   }
+  void verifyNothing(int error, int expected) const {
+    QCOMPARE(error, expected);
+    QCOMPARE(namesInOutput(), QStringList());
+  }
   [[nodiscard]] QStringList namesInOutput() const {
-    return QDir(m_home->path(u"out"_s))
-        .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    return QDir(m_home->path(u"out"_s)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
   }
 
   std::optional<TemporaryHome> m_home;

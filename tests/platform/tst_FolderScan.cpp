@@ -1,4 +1,3 @@
-#include <fcntl.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -26,53 +25,37 @@ class tst_FolderScan : public QObject {
   void namesOfAnyKindAreFound_data() {
     QTest::addColumn<QByteArray>("name");
     QTest::addColumn<bool>("found");
-    QTest::newRow("common") << "scan.txt"_ba << true;
     QTest::newRow("not UTF-8") << "sc\xe4n.txt"_ba << true;
     QTest::newRow("255 bytes") << QByteArray(255, 'n') << true;
-    QTest::newRow("line end and quotes") << "a\n\"b'.txt"_ba << true;
-    QTest::newRow("direction mark") << "\xe2\x80\xae"
-                                       "txt.exe"_ba
-                                    << true;
-    QTest::newRow("two dots inside") << "a..b"_ba << true;
+    QTest::newRow("line end, quotes, direction mark") << "a\n\"b'\xe2\x80\xae.txt"_ba << true;
     QTest::newRow("hidden") << ".scan.txt"_ba << false;
   }
   void namesOfAnyKindAreFound() {
     QFETCH(QByteArray, name);
     QFETCH(bool, found);
-    writeByBytes(name);
+    const FolderItem item = writeByBytes(name);
     QList<QByteArray> asked;
     FolderScanRules rules;
     rules.nameWanted = [&](QByteArrayView n) { return asked.append(n.toByteArray()), true; };
     const auto result = scanFolder(*m_folder, rules);
-    QVERIFY(result.result.ok());
     QCOMPARE(namesOf(result), found ? QList{name} : QList<QByteArray>());
     QCOMPARE(asked, namesOf(result));
-    if (found) QCOMPARE(result.files[0].version, versionOf(m_folder->ChildBytes(name)).value());
+    if (found) QCOMPARE(result.files[0].version, versionOf(item).value());
   }
 
-  void onlyPlainFilesWithContentAreFound() {
-    m_home->writeFile(u"in/plain"_s, "x");
+  void onlyReadablePlainFilesWithContentAreFound() {
+    for (const auto& name : {u"plain"_s, u"forbidden"_s, u"folder/below"_s}) m_home->writeFile(u"in/"_s + name, "x");
     m_home->writeFile(u"in/empty"_s, "");
-    m_home->makeFolder(u"in/folder"_s);
-    m_home->writeFile(u"in/folder/below"_s, "x");
-    link("plain", "in/link to a file");
-    link("folder", "in/link to a folder");
-    link("loop", "in/loop");
-    link("gone", "in/broken link");
-    link("fifo", "in/link to a fifo");
-    QCOMPARE(::mkfifo(m_home->item(u"in/fifo"_s).bytes().constData(), 0600), 0);
+    ::chmod(m_folder->Child(u"forbidden"_s).bytes().constData(), 0);
+    for (const auto& name : {"plain", "folder", "link to loop", "gone", "fifo", "forbidden"})
+      QCOMPARE(::symlink(name, m_folder->ChildBytes("link to "_ba + name).bytes().constData()), 0);
+    QCOMPARE(::symlink("loop", m_folder->ChildBytes("loop").bytes().constData()), 0);
+    QCOMPARE(::mkfifo(m_folder->ChildBytes("fifo").bytes().constData(), 0666), 0);
     makeSocket();
+    const Unprivileged user(m_home->path());
     const auto result = scanFolder(*m_folder, {});
     QVERIFY(result.result.ok());
-    QCOMPARE(namesOf(result), (QList<QByteArray>{"link to a file", "plain"}));
-  }
-
-  void filesThatCannotBeReadAreLeftOut() {
-    m_home->writeFile(u"in/forbidden"_s, "x");
-    m_home->writeFile(u"in/open"_s, "x");
-    ::chmod(m_folder->Child(u"forbidden"_s).bytes().constData(), 0);
-    const Unprivileged user(m_home->path());
-    QCOMPARE(namesOf(scanFolder(*m_folder, {})), QList<QByteArray>{"open"});
+    QCOMPARE(namesOf(result), (QList<QByteArray>{"link to plain", "plain"}));
   }
 
   void rulesLeaveFilesOut() {
@@ -88,11 +71,11 @@ class tst_FolderScan : public QObject {
 
   // Longer than what the kernel hands out at once, so that no name is lost where one piece ends.
   void aFolderOfManyNamesIsListedWhole() {
-    constexpr int kFiles = 3000;
-    for (int i = 0; i < kFiles; ++i) writeByBytes(QByteArray::number(i).rightJustified(200, '0'));
+    constexpr size_t kFiles = 3000;
+    for (size_t i = 0; i < kFiles; ++i) (void)writeByBytes(QByteArray::number(i).rightJustified(200, '0'));
     const auto result = scanFolder(*m_folder, {});
-    QCOMPARE(result.files.size(), size_t{kFiles});
-    for (int i = 0; i < kFiles; ++i) QCOMPARE(result.files[i].name.toInt(), i);
+    QCOMPARE(result.files.size(), kFiles);
+    for (size_t i = 0; i < kFiles; ++i) QCOMPARE(result.files[i].name.toULongLong(), i);
   }
 
   void aStopEndsThePass() {
@@ -110,36 +93,28 @@ class tst_FolderScan : public QObject {
     QTest::addColumn<int>("error");
     QTest::newRow("gone") << u"gone"_s << ENOENT;
     QTest::newRow("a file") << u"file"_s << ENOTDIR;
-    QTest::newRow("a fifo") << u"fifo"_s << ENOTDIR;
     QTest::newRow("forbidden") << u"forbidden"_s << EACCES;
   }
   void foldersThatCannotBeListed() {
     QFETCH(QString, name);
     m_home->writeFile(u"file"_s, "x");
-    QCOMPARE(::mkfifo(m_home->item(u"fifo"_s).bytes().constData(), 0600), 0);
     ::chmod(QFile::encodeName(m_home->makeFolder(u"forbidden"_s)).constData(), 0);
-    const FolderItem folder = m_home->item(name);
     const Unprivileged user(m_home->path());
-    QTEST(scanFolder(folder, {}).result.error, "error");
+    QTEST(scanFolder(m_home->item(name), {}).result.error, "error");
   }
 
  private:
-  void writeByBytes(const QByteArray& name) const {
-    const int fd = ::open(m_folder->ChildBytes(name).bytes().constData(), O_WRONLY | O_CREAT | O_CLOEXEC, 0644);
-    QVERIFY(fd >= 0);
-    QCOMPARE(::write(fd, "x", 1), ssize_t{1});
-    QCOMPARE(::close(fd), 0);
-  }
-  void link(const char* to, const char* name) const {
-    QCOMPARE(::symlink(to, m_home->item(QString::fromLatin1(name)).bytes().constData()), 0);
+  [[nodiscard]] FolderItem writeByBytes(const QByteArray& name) const {
+    m_home->writeFile(u"plain"_s, "x");
+    const FolderItem item = m_folder->ChildBytes(name);
+    if (::rename(m_home->item(u"plain"_s).bytes().constData(), item.bytes().constData()) != 0) qFatal("no such name");
+    return item;
   }
   void makeSocket() const {
     const int fd = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
-    const QByteArray path = m_folder->Child(u"socket"_s).bytes();
-    QVERIFY(path.size() < static_cast<qsizetype>(sizeof address.sun_path));
-    qstrcpy(address.sun_path, path.constData());
+    qstrncpy(address.sun_path, m_folder->Child(u"socket"_s).bytes().constData(), sizeof address.sun_path);
     QCOMPARE(::bind(fd, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
     ::close(fd);
   }

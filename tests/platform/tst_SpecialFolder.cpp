@@ -39,12 +39,6 @@ class tst_SpecialFolder : public QObject {
     QCOMPARE(SpecialFolder::Preferences().NativePath(), config.replace(u"HOME"_s, m_home->path()));
   }
 
-  void aHomeThatIsNoPathIsNotUsed() {
-    qunsetenv("XDG_DATA_HOME");
-    qputenv("HOME", "relative");
-    QVERIFY(SpecialFolder::ApplicationData().NativePath().endsWith(u"/.local/share/vantry-uploader"_s));
-  }
-
   void missingParentsAreMadePrivate() {
     m_home->makeFolder(u"old"_s);
     ::chmod(m_home->item(u"old"_s).bytes().constData(), 0755);

@@ -8,11 +8,24 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-static int listenOnLoopback(int& port) {
-  const int listener = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+static sockaddr_in loopback(int port) {
   sockaddr_in address{};
   address.sin_family = AF_INET;
+  address.sin_port = htons(static_cast<uint16_t>(port));
   address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  return address;
+}
+
+static int connectTo(int port, int flags) {
+  const int socket = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | flags, 0);
+  const sockaddr_in address = loopback(port);
+  (void)connect(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address);
+  return socket;
+}
+
+static int listenOnLoopback(int& port) {
+  const int listener = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+  sockaddr_in address = loopback(0);
   socklen_t size = sizeof address;
   auto* generic = reinterpret_cast<sockaddr*>(&address);
   if (bind(listener, generic, size) != 0 || getsockname(listener, generic, &size) != 0) qFatal("no port");
@@ -24,6 +37,16 @@ int closedPort() {
   int port = 0;
   close(listenOnLoopback(port));
   return port;
+}
+
+HangingPort::HangingPort() : m_listener(listenOnLoopback(m_port)) {
+  if (listen(m_listener, 0) != 0) qFatal("no listener");
+  for (int& socket : m_waiting) socket = connectTo(m_port, SOCK_NONBLOCK);
+}
+
+HangingPort::~HangingPort() {
+  for (const int socket : m_waiting) close(socket);
+  close(m_listener);
 }
 
 ScriptedServer::ScriptedServer(Script script) : m_script(std::move(script)), m_goingDown(eventfd(0, EFD_CLOEXEC)) {
@@ -40,6 +63,11 @@ ScriptedServer::~ScriptedServer() {
 }
 
 QString ScriptedServer::url(const QString& path) const { return u"http://127.0.0.1:%1%2"_s.arg(m_port).arg(path); }
+
+QByteArray ScriptedServer::received() const {
+  const std::lock_guard lock(m_mutex);
+  return m_received;
+}
 
 ScriptedServer::Script ScriptedServer::answer(const QByteArray& reply) {
   return [reply](Peer& peer) {
@@ -74,8 +102,11 @@ bool ScriptedServer::Peer::readMore() {
   char piece[4096];
   if (!await(POLLIN)) return false;
   const ssize_t count = recv(m_socket, piece, sizeof piece, 0);
-  if (count > 0) m_buffer.append(piece, count);
-  return count > 0;
+  if (count <= 0) return false;
+  m_buffer.append(piece, count);
+  const std::lock_guard lock(m_server.m_mutex);
+  m_server.m_received.append(piece, count);
+  return true;
 }
 
 QByteArray ScriptedServer::Peer::readTo(const QByteArray& ending) {
@@ -109,4 +140,21 @@ void ScriptedServer::Peer::reset() {
   setsockopt(m_socket, SOL_SOCKET, SO_LINGER, &now, sizeof now);
   close(m_socket);
   m_socket = -1;
+}
+
+void ScriptedServer::Peer::pipeTo(int port) {
+  const int other = connectTo(port, 0);
+  const int ends[] = {m_socket, other};
+  char piece[4096];
+  for (bool open = true; open;) {
+    pollfd waiting[] = {{m_socket, POLLIN, 0}, {other, POLLIN, 0}, {m_server.m_goingDown, POLLIN, 0}};
+    poll(waiting, 3, -1);
+    if (waiting[2].revents != 0) break;
+    for (int i = 0; i < 2 && open; ++i) {
+      if (waiting[i].revents == 0) continue;
+      const ssize_t count = recv(ends[i], piece, sizeof piece, 0);
+      open = count > 0 && send(ends[1 - i], piece, static_cast<size_t>(count), MSG_NOSIGNAL) == count;
+    }
+  }
+  close(other);
 }

@@ -4,7 +4,6 @@
 
 #include <QByteArray>
 #include <QString>
-#include <atomic>
 #include <functional>
 #include <mutex>
 #include <thread>
@@ -19,14 +18,15 @@ class ScriptedServer {
     void holdUntilItLeaves();     ///< reads and drops what comes until the client has closed
     bool wait(int milliseconds);  ///< false if the server is being taken down
     void reset();                 ///< ends the connection with a reset
+    void pipeTo(int port);        ///< carries bytes both ways between it and a port on 127.0.0.1, to the end
 
    private:
     friend class ScriptedServer;
-    Peer(const ScriptedServer& server, int socket) : m_server(server), m_socket(socket) {}
+    Peer(ScriptedServer& server, int socket) : m_server(server), m_socket(socket) {}
     ~Peer();
     bool readMore();
     bool await(short events, int milliseconds = -1) const;
-    const ScriptedServer& m_server;
+    ScriptedServer& m_server;
     int m_socket;
     QByteArray m_buffer;
   };
@@ -38,7 +38,8 @@ class ScriptedServer {
   ScriptedServer& operator=(const ScriptedServer&) = delete;
 
   [[nodiscard]] int port() const { return m_port; }
-  [[nodiscard]] QString url(const QString& path) const;
+  [[nodiscard]] QString url(const QString& path = {}) const;
+  [[nodiscard]] QByteArray received() const;  ///< all bytes that scripts have read, of all connections
   /// A script that takes a request without content, answers and closes.
   static Script answer(const QByteArray& reply);
 
@@ -47,7 +48,23 @@ class ScriptedServer {
 
   Script m_script;
   int m_listener = -1, m_goingDown = -1, m_port = 0;
+  mutable std::mutex m_mutex;  // guards m_received
+  QByteArray m_received;
   std::thread m_thread;
+};
+
+/// A listener that accepts nobody and whose queue is full, so that connecting to it hangs.
+class HangingPort {
+ public:
+  HangingPort();
+  ~HangingPort();
+  HangingPort(const HangingPort&) = delete;
+  HangingPort& operator=(const HangingPort&) = delete;
+  [[nodiscard]] int port() const { return m_port; }
+
+ private:
+  int m_port = 0, m_listener = -1;
+  int m_waiting[4];
 };
 
 /// A port on 127.0.0.1 on which nobody listens.
