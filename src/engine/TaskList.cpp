@@ -128,11 +128,11 @@ void UploaderTask::DistinctName(FolderItem& item) {
   item = candidate;
 }
 
-FolderItem UploaderTask::newTaskFile(const QString& name) {
+FolderItem UploaderTask::newTaskFile(const FolderItem& folder, const QString& name) {
   QString stem = cutToBytes(name, longestFileName - 40);
   if (stem.startsWith(u'.')) stem[0] = u'_';  // a hidden file would not be loaded again
   const QString seconds = QString::number(static_cast<qint64>(Date().TotalSeconds()));
-  FolderItem item = TaskDirectory().Child(stem + u' ' + seconds + u".VNT"_s);
+  FolderItem item = folder.Child(stem + u' ' + seconds + u".VNT"_s);
   DistinctName(item);
   return item;
 }
@@ -141,7 +141,7 @@ bool UploaderTask::duplicateTask(const TaskPointer& task, IoResult* failure) {
   const auto copy = std::make_shared<UploaderTask>();
   IoResult result = task->file ? copy->open(*task->file) : IoResult::failure(ENOENT, task->Name);
   if (result.ok()) {
-    const FolderItem copyFile = newTaskFile(task->Name + u" Copy"_s);
+    const FolderItem copyFile = newTaskFile(task->file->Parent(), task->Name + u" Copy"_s);
     copy->disabled = true;
     copy->Name += u" Copy"_s;
     if (copy->save(copyFile, &result)) {

@@ -109,9 +109,9 @@ class UploaderTask {
   /// Puts an edited task in the place of its old self, as one change of the list, and marks the old one's file; the
   /// failure says why it could not be marked. An old one that has left the list meanwhile changes nothing here.
   static IoResult replaceTask(const TaskPointer& old, const TaskPointer& replacement);
-  /// A file of the task folder that is not there yet, for a task of that name: "<name> <seconds>.VNT", with what a
-  /// file name can't hold replaced or cut.
-  [[nodiscard]] static FolderItem newTaskFile(const QString& name);
+  /// A file of `folder` that is not there yet, for a task of that name: "<name> <seconds>.VNT", with what a file name
+  /// can't hold replaced or cut.
+  [[nodiscard]] static FolderItem newTaskFile(const FolderItem& folder, const QString& name);
   /// Adds a disabled copy named "… Copy" with a file of its own; false, with the reason, when it can't be written.
   [[nodiscard]] static bool duplicateTask(const TaskPointer& task, IoResult* failure = nullptr);
   /// Deletes the marked files. What can't be deleted stays until the next time.
