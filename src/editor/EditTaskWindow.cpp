@@ -54,6 +54,7 @@ EditTaskWindow::EditTaskWindow(TaskPointer task, QWidget* parent, int)
   buildLeftColumn();
   buildRightColumn();
   buildFoot();
+  paintQuietParts();
   setTabOrderOfControls();
   connectControls();
   connectFolderControls();
@@ -198,5 +199,7 @@ void EditTaskWindow::closeEvent(QCloseEvent* event) {
 
 void EditTaskWindow::changeEvent(QEvent* event) {
   QDialog::changeEvent(event);
-  if (event->type() == QEvent::PaletteChange && OkButton) paintCheck();
+  if (event->type() != QEvent::PaletteChange || !OkButton) return;
+  paintCheck();
+  paintQuietParts();
 }

@@ -79,6 +79,7 @@ class EditTaskWindow : public QDialog {
 
   void CheckCanSave();
   void paintCheck();
+  void paintQuietParts();
   void Warden_Change();
   void UpdateTrackSelectionOptions();
   void TrackList1_Change();
@@ -127,7 +128,8 @@ class EditTaskWindow : public QDialog {
   QCheckBox *AutoRecognition, *AutoMountInput, *autoMountOutput, *ReplaceName, *AddDateToFileNameCheckBox,
       *DeleteFileAfterCopyCheckBox, *DisableTaskButton;
   QPushButton *InputFolderSetButton, *ClearInputButton, *TestAutoMountInput, *OutputFOlderSetButton, *ClearOutPutButton,
-      *TestAutoMountOUtput, *ClearProcessDateStampButton, *CancelDialogButton, *OkButton;
+      *TestAutoMountOUtput, *ClearProcessDateStampButton, *CancelDialogButton, *OkButton = nullptr;
   QToolButton* FileRecognitionHelpButton;
   LiveSample* Sample;
+  QList<QFrame*> m_separators;
 };

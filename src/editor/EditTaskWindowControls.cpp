@@ -55,7 +55,7 @@ QCheckBox* EditTaskWindow::button(const char* name, const QString& caption, QRec
 void EditTaskWindow::separator(const char* name, QRect at) {
   auto* const line = new QFrame(this);
   line->setFrameShape(at.width() > at.height() ? QFrame::HLine : QFrame::VLine);
-  line->setFrameShadow(QFrame::Sunken);
+  m_separators << line;
   place(line, name, {}, at);
 }
 
@@ -165,8 +165,11 @@ void EditTaskWindow::buildMountGroup(bool input) {
 }
 
 void EditTaskWindow::buildFoot() {
-  Sample = field<LiveSample>(this, "Sample", {20, 574, 515, 18});
+  Sample = field<LiveSample>(this, "Sample", {20, 576, 515, 17});
   Sample->setAccessibleName(klSampleName());
+  QFont small = font();
+  small.setPixelSize(QFontInfo(small).pixelSize() - 1);
+  Sample->setFont(small);
   separator("Separator1", {20, 594, 494, 8});
   DisableTaskButton = button<QCheckBox>("DisableTaskButton", klDisableTask(), {20, 614, 119, 20});
   DisableTaskButton->setText(m_letters.mark(DisableTaskButton->text()));

@@ -15,11 +15,19 @@ static QColor requiredColor(const QPalette& palette) {
   return dark ? QColor(255, 120, 120) : QColor(255, 0, 0);
 }
 
-/// The ground's text colour moved a third towards the ground.
-static QColor quietColor(const QPalette& palette) {
+/// The ground's text colour with `parts` of eight of the ground itself.
+static QPalette quieter(const QPalette& palette, int parts) {
   const QColor text = palette.color(QPalette::WindowText), ground = palette.color(QPalette::Window);
-  const auto mixed = [](int a, int b) { return (2 * a + b) / 3; };
-  return {mixed(text.red(), ground.red()), mixed(text.green(), ground.green()), mixed(text.blue(), ground.blue())};
+  const auto mixed = [parts](int a, int b) { return ((8 - parts) * a + parts * b) / 8; };
+  QPalette quiet;
+  quiet.setColor(QPalette::WindowText, QColor(mixed(text.red(), ground.red()), mixed(text.green(), ground.green()),
+                                              mixed(text.blue(), ground.blue())));
+  return quiet;
+}
+
+void EditTaskWindow::paintQuietParts() {
+  Sample->setPalette(quieter(palette(), 2));
+  for (QFrame* const line : std::as_const(m_separators)) line->setPalette(quieter(palette(), 6));
 }
 
 void EditTaskWindow::CheckCanSave() {
@@ -47,9 +55,6 @@ void EditTaskWindow::paintCheck() {
   paint(inputFolderLabel, check.inputMissing);
   paint(SelectTrackLabel, check.firstMissing);
   paint(SelectTargetLabel, check.secondMissing);
-  QPalette quiet;
-  quiet.setColor(QPalette::WindowText, quietColor(palette()));
-  Sample->setPalette(quiet);
   OkButton->setEnabled(check.canSave);
 }
 
