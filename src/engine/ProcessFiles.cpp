@@ -67,7 +67,7 @@ void Batch::run() {
     look = m_task.lookAtInputFolder();
   }
   if (look.result.ok() && look.files.due.empty()) limit = look.began;
-  m_task.updateDateLimit(false, m_task.ledger().close(limit));
+  m_task.closeBatch(limit);
 }
 
 bool Batch::process(const ScannedFile& scanned) {
@@ -84,7 +84,7 @@ bool Batch::process(const ScannedFile& scanned) {
     case Sent::Stopped:
       return false;
     case Sent::Moving:
-      m_task.ledger().foundMoving(scanned, engineClock().monotonicMs());
+      m_task.foundMoving(scanned);
       return true;
     case Sent::Gone:
       entry.setValue(u"Notes"_s, u"File not accessible"_s);
@@ -98,7 +98,7 @@ bool Batch::process(const ScannedFile& scanned) {
       keepFailed(file, scanned, attempt, entry);
       break;
   }
-  m_task.ledger().dealtWith(scanned);
+  m_task.dealtWith(scanned);
   entry.WriteToLog();
   return true;
 }
