@@ -41,10 +41,10 @@ struct Misbehaviour {
   };
 
   Kind kind = Kind::ErrorCode;
-  QByteArray text;
+  QByteArray text{};
   qint64 bytes = 0;
   int everyMs = 0;
   bool closeAfter = false;  ///< EarlyError: drops the connection, unread bytes and all; otherwise it stays open
   int times = 1;            ///< requests (or connections) that it befalls; 0: every one until cleared
-  QByteArray method;        ///< requests of this method alone, such as "SendFile"; empty for any
+  QByteArray method{};      ///< requests of this method alone, such as "SendFile"; empty for any
 };

@@ -44,9 +44,9 @@ bool BatchLedger::atRest(const ScannedFile& file, const Date& began, qint64 mono
   const auto ageMs = static_cast<qint64>((began.TotalSeconds() - date) * 1000);
   const double lastLook = m_lastLook > 0 ? m_lastLook : m_limit;
   const bool trusted = ageMs >= 0 && date >= lastLook - static_cast<double>(stepMs) / 1000 - KernelTick;
-  if (trusted && ageMs >= RestMs + stepMs) return true;
-  m_observed.insert(file.name, {file.version, monotonicMs - (trusted ? ageMs : 0)});
-  return false;
+  const qint64 restedMs = trusted ? ageMs : 0;
+  m_observed.insert(file.name, {file.version, monotonicMs - restedMs});
+  return restedMs >= RestMs + stepMs;
 }
 
 BatchLedger::Selection BatchLedger::look(const std::vector<ScannedFile>& listing, double dateLimit, const Date& began,

@@ -56,7 +56,7 @@ class BatchLedger {
   [[nodiscard]] bool atRest(const ScannedFile& file, const Date& began, qint64 monotonicMs);
 
   QHash<Fingerprint, qint64> m_dealtWith;  // fingerprint of name, size and date -> date in ns
-  QHash<QByteArray, Observation> m_observed;
+  QHash<QByteArray, Observation> m_observed;  // of the last listing, without what is dealt with
   QSet<Fingerprint> m_lastListing;
   std::vector<ScannedFile> m_waiting;
   double m_limit = 0;

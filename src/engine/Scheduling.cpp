@@ -6,6 +6,7 @@
 #include "engine/UploadThread.h"
 #include "engine/UploaderTask.h"
 #include "platform/Clock.h"
+#include "platform/SafeFile.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -99,6 +100,12 @@ TaskPointer UploaderTask::getNextTaskWithFiles() {
 
 bool UploaderTask::PrepareToUpload() {
   if (!inputFolder || !inputFolder->Exists()) return false;
+  if (!m_outputSwept && outputFolder && outputFolder->Exists()) {
+    // Copies that an earlier process was killed at lie hidden among the good ones.
+    removeLeftovers(*outputFolder);
+    removeLeftovers(outputFolder->Child(u"Processing Errors - "_s + Name));
+    m_outputSwept = true;
+  }
   if (!ErrorFolder && outputFolder && outputFolder->Exists()) {
     if (!outputFolder->IsWriteable()) return false;
     ErrorFolder = outputFolder->Child(u"Processing Errors - "_s + Name);

@@ -46,7 +46,11 @@ void recordFailure(const TaskPointer& task, const QString& reason) {
     entry.setValue(u"Track"_s, task->Track);
   }
   entry.setValue(u"Notes"_s, fillPlaceholders(VTULocalization::klRunFailedNote(), {reason}));
-  entry.WriteToLog();
+  try {
+    entry.WriteToLog();
+  } catch (const std::exception&) {
+    // The problem raised above tells it all the same.
+  }
 }
 
 /// Processes tasks until none has work. `task` is the one under way, for whoever catches an exception.

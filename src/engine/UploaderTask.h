@@ -131,5 +131,6 @@ class UploaderTask {
   std::optional<RegEx> exclusionRegEx;
   BatchLedger m_ledger;  // upload thread
   bool m_ledgerRead = false;
+  bool m_outputSwept = false;
   mutable std::atomic<bool> m_exclusionTooCostly{false};  // found by the present look
 };

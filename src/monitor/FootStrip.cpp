@@ -11,7 +11,7 @@
 using namespace Qt::Literals::StringLiterals;
 
 /// The lower, the sooner a person must know.
-enum class Rank { NothingIsSent, SomethingAtStake, OneTaskHindered, ToKnow, NoLogin };
+enum class Rank { NothingIsSent, SomethingAtStake, OneTaskHindered, ToKnow, NoLogin, WaitsForLogin };
 
 static Rank rankOf(Problem::Kind kind) {
   switch (kind) {
@@ -47,9 +47,13 @@ static QStringList wrongs(const StripInput& input) {
   };
   QList<Wrong> found;
   QStringList toldTasks;
+  const bool noLogin = std::any_of(input.problems.begin(), input.problems.end(),
+                                   [](const Problem& problem) { return problem.kind == Problem::Kind::NoLogin; });
   for (const Problem& problem : input.problems) {
     const Problem cleaned{problem.kind, onOneLine(problem.subject), onOneLine(problem.detail)};
-    found.append({rankOf(problem.kind), VTULocalization::problemText(cleaned)});
+    // Whoever has not entered a login yet doesn't miss the service.
+    const bool waits = noLogin && problem.kind == Problem::Kind::ServiceUnreachable;
+    found.append({waits ? Rank::WaitsForLogin : rankOf(problem.kind), VTULocalization::problemText(cleaned)});
     if (problem.kind == Problem::Kind::InputFolderUnreadable) toldTasks << problem.subject;
   }
   for (const QString& task : input.faultyTasks)
@@ -86,8 +90,9 @@ StripLine composeStrip(const StripInput& input) {
   if (!input.notice.isEmpty()) return withDetails(Tone::Quiet, onOneLine(input.notice));
   if (input.activity.sending) return withDetails(Tone::Sending, sendingText(input.activity));
   if (!wrong.isEmpty()) {
-    const QString more = wrong.size() == 1 ? QString() : fillPlaceholders(MonitorText::klStripAndMore(),
-                                                                          {QString::number(wrong.size() - 1)});
+    const QString more = wrong.size() == 1
+                             ? QString()
+                             : fillPlaceholders(MonitorText::klStripAndMore(), {QString::number(wrong.size() - 1)});
     return {Tone::Wrong, wrong.first(), more, wrong.join(u'\n')};
   }
   switch (input.phase) {
@@ -98,12 +103,14 @@ StripLine composeStrip(const StripInput& input) {
     case StartPhase::Running:
       break;
   }
-  return withDetails(Tone::Well, fillPlaceholders(VTULocalization::klStripAllWell(),
-                                                  {momentText(input.wellSince, input.now)}));
+  return withDetails(Tone::Well,
+                     fillPlaceholders(VTULocalization::klStripAllWell(), {momentText(input.wellSince, input.now)}));
 }
 
 QDateTime WellSince::update(const StripInput& input) {
-  if (input.phase != StartPhase::Running || !isWell(input)) m_since = QDateTime();
-  else if (!m_since.isValid()) m_since = input.now;
+  if (input.phase != StartPhase::Running || !isWell(input))
+    m_since = QDateTime();
+  else if (!m_since.isValid())
+    m_since = input.now;
   return m_since;
 }

@@ -18,14 +18,14 @@ static QString notInBuild(const QString& what) {
 }
 
 void VTUploaderMainWIndow::NewButton_Action() {
-  if (!m_commands.createNewTask) return say(notInBuild(VTULocalization::klEditTask()));
+  if (!m_commands.createNewTask) return say(notInBuild(MonitorText::klTaskEditor()));
   if (m_commands.createNewTask()) ListTasks();
 }
 
 void VTUploaderMainWIndow::EditButton_Action() {
   const TaskPointer task = selectedTask();
   if (!task) return;
-  if (!m_commands.editTask) return say(notInBuild(VTULocalization::klEditTask()));
+  if (!m_commands.editTask) return say(notInBuild(MonitorText::klTaskEditor()));
   if (task->Busy.load() && task->disabled.load())
     return Messages::tell(this, VTULocalization::klTaskCurrentlyProcessing(), false);
   UploadThread::Enabled = false;
@@ -51,7 +51,7 @@ void VTUploaderMainWIndow::RemoveButton_Action() {
 }
 
 void VTUploaderMainWIndow::AdminButton_Action() {
-  if (!m_commands.showAdminWindow) return say(notInBuild(VTULocalization::klAdmin()));
+  if (!m_commands.showAdminWindow) return say(notInBuild(MonitorText::klAdminWindow()));
   if (m_commands.checkAdminPassword && !m_commands.checkAdminPassword()) return;
   UploadThread::Enabled = false;
   m_commands.showAdminWindow();
@@ -59,12 +59,11 @@ void VTUploaderMainWIndow::AdminButton_Action() {
 }
 
 void VTUploaderMainWIndow::ShowLogbutton_Action() {
-  if (!m_commands.showLogWindow) return say(notInBuild(VTULocalization::klShowLog()));
+  if (!m_commands.showLogWindow) return say(notInBuild(MonitorText::klLogViewer()));
   m_commands.showLogWindow();
 }
 
 void VTUploaderMainWIndow::HelpButton_MouseUp() {
   const QString address = u"https://%1/other_tools/en/manual/uploader"_s.arg(QString::fromUtf8(ManualHost));
-  if (!QDesktopServices::openUrl(QUrl(address)))
-    say(fillPlaceholders(MonitorText::klManualNotOpened(), {address}));
+  if (!QDesktopServices::openUrl(QUrl(address))) say(fillPlaceholders(MonitorText::klManualNotOpened(), {address}));
 }

@@ -19,6 +19,7 @@ void VTUploaderMainWIndow::showEvent(QShowEvent* event) {
 }
 
 void VTUploaderMainWIndow::Event_Open() {
+  if (m_closed) return;
   if (VantryUtil::SoapUserName().trimmed().isEmpty() || VantryUtil::SoapPassword().trimmed().isEmpty()) {
     Problems::raise(Problem::Kind::NoLogin, {}, {});
     if (m_commands.showAdminWindow) m_commands.showAdminWindow();
@@ -61,7 +62,8 @@ void VTUploaderMainWIndow::startFailed(const QString& reason) {
 
 void VTUploaderMainWIndow::quitWithoutAsking() {
   m_quitting = true;
-  close();
+  finish();  // not close(): while its question is open, Qt takes that for done
+  hide();
 }
 
 bool VTUploaderMainWIndow::Event_CancelClose() {
@@ -69,11 +71,12 @@ bool VTUploaderMainWIndow::Event_CancelClose() {
 }
 
 void VTUploaderMainWIndow::closeEvent(QCloseEvent* event) {
-  if (!m_quitting && Event_CancelClose() && !m_quitting) {
-    event->ignore();
-    return;
-  }
-  event->accept();
+  const bool stays = !m_quitting && Event_CancelClose() && !m_quitting;  // the session may end over the question
+  event->setAccepted(!stays);
+  if (!stays) finish();
+}
+
+void VTUploaderMainWIndow::finish() {
   if (m_closed) return;
   m_closed = true;
   Event_Close();

@@ -53,8 +53,10 @@ void TaskListModel::refresh(bool uploadEnabled) {
     const RowLook look = m_rows[i].look;
     const qint64 uploaded = m_rows[i].uploaded;
     bringUpToDate(m_rows[i], uploadEnabled);
-    if (m_rows[i].look != look) emit dataChanged(index(i, StatusColumn), index(i, FilesColumn));
-    else if (m_rows[i].uploaded != uploaded) emit dataChanged(index(i, FilesColumn), index(i, FilesColumn));
+    if (m_rows[i].look != look)
+      emit dataChanged(index(i, StatusColumn), index(i, FilesColumn));
+    else if (m_rows[i].uploaded != uploaded)
+      emit dataChanged(index(i, FilesColumn), index(i, FilesColumn));
   }
 }
 
@@ -107,6 +109,7 @@ QVariant TaskListModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
       return textOf(row, index.column());
     case Qt::ToolTipRole:
+      if (index.column() == FilesColumn) return {};
       return plainToolTip(status ? statusWords(row.look.state) : textOf(row, index.column()).toString());
     case Qt::AccessibleTextRole:
       return status ? statusWords(row.look.state) : textOf(row, index.column());

@@ -1,16 +1,10 @@
 #include "monitor/VTUploaderMainWIndow.h"
 
-#include <QCloseEvent>
-#include <QCoreApplication>
-#include <QHeaderView>
-#include <QPointer>
 #include <QScrollBar>
 #include <QShortcut>
 
 #include "engine/UploadThread.h"
 #include "monitor/MonitorText.h"
-#include "monitor/TaskListDelegate.h"
-#include "storage/Preferences.h"
 #include "text/VTULocalization.h"
 #include "version.h"
 #include "widgets/Anchors.h"
@@ -25,7 +19,7 @@ constexpr int StripPeriodMs = 400;
 constexpr int NoticeMs = 6000;
 
 VTUploaderMainWIndow::VTUploaderMainWIndow(MainWindowCommands commands, QWidget* parent)
-    : QMainWindow(parent), m_commands(std::move(commands)) {
+    : QMainWindow(parent), m_commands(std::move(commands)), m_model(new TaskListModel(this)) {
   setObjectName(u"VTUploaderMainWIndow"_s);
   setWindowTitle(QString::fromUtf8(AppDisplayName));
   setWindowIcon(Pictures::programIcon());
@@ -34,7 +28,6 @@ VTUploaderMainWIndow::VTUploaderMainWIndow(MainWindowCommands commands, QWidget*
   resize(DesignSize);
   setCentralWidget(new QWidget(this));
   centralWidget()->resize(DesignSize);
-  buildTaskList();
   buildControls();
   buildKeys();
   connectControls();
@@ -42,33 +35,6 @@ VTUploaderMainWIndow::VTUploaderMainWIndow(MainWindowCommands commands, QWidget*
   StripRefresher_Action();
   StatusRefresher->start(StatusPeriodMs);
   StripRefresher->start(StripPeriodMs);
-}
-
-void VTUploaderMainWIndow::buildTaskList() {
-  m_model = new TaskListModel(this);
-  TaskList = new QTreeView(centralWidget());
-  QFont font = TaskList->font();
-  font.setPointSizeF(qBound(9.0, font.pointSizeF(), 12.0));  // 12 design points are 9 of a screen of 96 dots an inch
-  TaskList->setFont(font);
-  TaskList->setItemDelegate(new TaskListDelegate(TaskList));
-  TaskList->setModel(m_model);
-  TaskList->setRootIsDecorated(false);
-  TaskList->setItemsExpandable(false);
-  TaskList->setUniformRowHeights(true);
-  TaskList->setAllColumnsShowFocus(true);
-  TaskList->setSelectionMode(QAbstractItemView::SingleSelection);
-  TaskList->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  TaskList->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  QHeaderView* const header = TaskList->header();
-  header->setSectionsMovable(false);
-  header->setStretchLastSection(false);
-  header->setMinimumSectionSize(40);
-  header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-  header->setSectionResizeMode(QHeaderView::Fixed);
-  header->setSectionResizeMode(TaskListModel::DescriptionColumn, QHeaderView::Stretch);
-  header->resizeSection(TaskListModel::StatusColumn, 53);
-  header->resizeSection(TaskListModel::NameColumn, 150);
-  header->resizeSection(TaskListModel::FilesColumn, 54);
 }
 
 void VTUploaderMainWIndow::buildControls() {
@@ -95,7 +61,8 @@ void VTUploaderMainWIndow::buildControls() {
   VersionLabel->setPalette(onBanner);
   place(HelpButton = new PictureButton(u"help"_s, ground), u"HelpButton"_s, MonitorText::klHelp(), {578, 40, 32, 32},
         Edge::Top | Edge::Right);
-  place(TaskList, u"TaskList"_s, MonitorText::klTasks(), {20, 102, 610, 282}, top | Edge::Bottom);
+  place(TaskList = new TaskListView(m_model, ground), u"TaskList"_s, MonitorText::klTasks(), {20, 102, 610, 282},
+        top | Edge::Bottom);
   NewButton = button(u"NewButton"_s, VTULocalization::klNew(), 20, Edge::Left);
   EditButton = button(u"EditButton"_s, VTULocalization::klEdit(), 112, Edge::Left);
   DuplicateButton = button(u"DuplicateButton"_s, VTULocalization::klDuplicate(), 204, Edge::Left);
@@ -113,8 +80,8 @@ void VTUploaderMainWIndow::buildControls() {
 }
 
 void VTUploaderMainWIndow::buildKeys() {
-  QWidget* const order[] = {HelpButton, TaskList, NewButton, EditButton, DuplicateButton, RemoveButton, AdminButton,
-                            ShowLogbutton};
+  QWidget* const order[] = {HelpButton,      TaskList,     NewButton,   EditButton,
+                            DuplicateButton, RemoveButton, AdminButton, ShowLogbutton};
   for (size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
   TaskList->setFocus();
 
@@ -159,15 +126,10 @@ void VTUploaderMainWIndow::StatusRefresher_Action() {
   if (UploadThread::Enabled.load() && !UploadThread::ProcessingNow()) UploadThread::Start();
 }
 
-int VTUploaderMainWIndow::ListIndex() const {
-  const QModelIndexList rows = TaskList->selectionModel()->selectedRows();
-  return rows.isEmpty() ? -1 : rows.first().row();
-}
-
-TaskPointer VTUploaderMainWIndow::selectedTask() const { return m_model->task(ListIndex()); }
+TaskPointer VTUploaderMainWIndow::selectedTask() const { return m_model->task(TaskList->ListIndex()); }
 
 void VTUploaderMainWIndow::TaskList_Change() {
-  const bool selected = ListIndex() > -1;
+  const bool selected = TaskList->ListIndex() > -1;
   for (QPushButton* const button : {EditButton, DuplicateButton, RemoveButton}) button->setEnabled(selected);
 }
 

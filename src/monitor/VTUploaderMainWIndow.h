@@ -7,7 +7,6 @@
 #include <QMainWindow>
 #include <QPushButton>
 #include <QTimer>
-#include <QTreeView>
 #include <functional>
 
 #include "engine/StartUp.h"
@@ -15,6 +14,7 @@
 #include "monitor/HeaderPicture.h"
 #include "monitor/ShadedStrip.h"
 #include "monitor/TaskListModel.h"
+#include "monitor/TaskListView.h"
 
 /// What the window's commands open; whoever wires the program sets them. An empty one makes its button say in the
 /// foot strip that the window is not there.
@@ -49,7 +49,6 @@ class VTUploaderMainWIndow : public QMainWindow {
 
  private:
   void buildControls();
-  void buildTaskList();
   void buildKeys();
   void connectControls();
 
@@ -68,17 +67,17 @@ class VTUploaderMainWIndow : public QMainWindow {
   void ShowLogbutton_Action();
   void HelpButton_MouseUp();
 
+  /// What every way of closing ends in; does its work once.
+  void finish();
   void tasksLoaded();
   void startFailed(const QString& reason);
   [[nodiscard]] StripInput stripInput();
-  /// The selected row, -1 for none.
-  [[nodiscard]] int ListIndex() const;
   [[nodiscard]] TaskPointer selectedTask() const;
 
   HeaderPicture* Banner = nullptr;
   PictureButton* HelpButton = nullptr;
   QLabel* VersionLabel = nullptr;
-  QTreeView* TaskList = nullptr;
+  TaskListView* TaskList = nullptr;
   QPushButton* NewButton = nullptr;
   QPushButton* EditButton = nullptr;
   QPushButton* DuplicateButton = nullptr;
@@ -90,7 +89,7 @@ class VTUploaderMainWIndow : public QMainWindow {
   QTimer* StripRefresher = nullptr;
 
   MainWindowCommands m_commands;
-  TaskListModel* m_model = nullptr;
+  TaskListModel* m_model;
   StartPhase m_phase = StartPhase::Connecting;
   WellSince m_wellSince;
   QString m_notice;

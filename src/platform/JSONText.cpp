@@ -117,6 +117,11 @@ class JSONItem::Builder : public nlohmann::json::json_sax_t {
 };
 
 std::optional<JSONItem> JSONItem::parse(const QByteArray& utf8, QString* error) {
+  // The parser takes a zero byte for the end, whatever stands behind it.
+  if (utf8.contains('\0')) {
+    if (error) *error = u"no valid JSON: a zero byte"_s;
+    return std::nullopt;
+  }
   Builder builder;
   bool whole = false;
   QString reason;

@@ -16,7 +16,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr size_t kPiece = 256 * 1024;
+constexpr size_t kPiece = size_t{256} * 1024;
 constexpr int kOpenToRead = O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
 
 template <typename Call>
@@ -139,7 +139,7 @@ std::optional<FolderItem> realTarget(const FolderItem& target, int& error) {
   const std::unique_ptr<char, decltype(&std::free)> path(::realpath(target.bytes().constData(), nullptr), &std::free);
   error = errno;
   if (!path) return std::nullopt;
-  const auto item = FolderItem::fromBytes(path.get());
+  auto item = FolderItem::fromBytes(path.get());
   if (item && versionOf(*item)) return item;
   error = item && item->Directory() ? EISDIR : EINVAL;
   return std::nullopt;
@@ -163,7 +163,7 @@ int copyInKernel(FileOps& ops, int from, HiddenFile& to, qint64 size) {
 }
 
 int copyByReading(FileOps& ops, int from, HiddenFile& to, qint64 size) {
-  if (!rewind(from) || !rewind(to.fd()) || ::ftruncate(to.fd(), 0) != 0) return errno;
+  if (!rewind(from) || !rewind(to.fd())) return errno;
   const auto buffer = std::make_unique_for_overwrite<char[]>(kPiece);
   for (qint64 left = size; left > 0;) {
     const size_t piece = static_cast<size_t>(std::min<qint64>(left, kPiece));

@@ -49,18 +49,35 @@ class Opening {
   [[nodiscard]] QString error() const { return m_error; }
   [[nodiscard]] sqlite3* release() {
     sqlite3_busy_timeout(m_db, LockWaitMs);
+    keepJournalOnClose(false);
     return std::exchange(m_db, nullptr);
   }
   void close() { sqlite3_close_v2(std::exchange(m_db, nullptr)); }
 
  private:
+  enum class Journal { WriteAhead, Rollback };
+
   int makePrivateFile();
+  int attempt(Journal journal);
   int connect();
+  int leaveWriteAhead();
   int lookAtContent();
-  int chooseJournal();
+  int enterWriteAhead() { return tell(run("PRAGMA journal_mode=WAL")); }
+  int probe();
+  int checkLength();
   int run(const char* statement, std::string* firstValue = nullptr);
-  int fail(int code) {
-    m_error = words(m_db, m_file);
+  void keepJournalOnClose(bool keep) const {
+    sqlite3_db_config(m_db, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, keep ? 1 : 0, nullptr);
+  }
+  [[nodiscard]] bool hasWriteAheadJournal() const {
+    return m_file.Parent().Child(m_file.Name() + u"-wal"_s).Length() > 0;
+  }
+  int refuse(int code, const QString& why) {
+    m_error = u"%1: %2"_s.arg(m_file.Name(), why);
+    return code;
+  }
+  int tell(int code) {
+    if (code != SQLITE_OK) m_error = words(m_db, m_file);
     return code;
   }
 
@@ -71,33 +88,55 @@ class Opening {
 };
 
 int Opening::bringUp() {
-  for (const auto step :
-       {&Opening::makePrivateFile, &Opening::connect, &Opening::lookAtContent, &Opening::chooseJournal})
-    if (const int code = (this->*step)(); code != SQLITE_OK) return code;
-  return SQLITE_OK;
+  if (const int code = makePrivateFile(); code != SQLITE_OK) return code;
+  const int code = attempt(Journal::WriteAhead);
+  const bool worthAnother = code != SQLITE_OK && !isDamage(code) && (code & 0xff) != SQLITE_BUSY;
+  if (!worthAnother) return code;
+  const QString reason = m_error;
+  const int second = attempt(Journal::Rollback);
+  if (second != SQLITE_OK) m_error = reason;
+  return second;
+}
+
+/// Some file systems offer no shared memory, which write-ahead needs and which SQLite asks for after it has noted the
+/// new journal in the file: hence a connection anew, which takes that back, and the probe.
+int Opening::attempt(Journal journal) {
+  close();
+  int code = connect();
+  if (code == SQLITE_OK && journal == Journal::Rollback) code = leaveWriteAhead();
+  if (code == SQLITE_OK) code = lookAtContent();
+  if (code == SQLITE_OK && journal == Journal::WriteAhead) code = enterWriteAhead();
+  if (code == SQLITE_OK) code = probe();
+  return code;
 }
 
 /// SQLite would make the file readable for others. Only a new file is opened here: closing one that SQLite has open
 /// would drop its locks.
 int Opening::makePrivateFile() {
+  // SQLite would delete the journal, which may hold all that is left of a file that was emptied.
+  if (m_file.Length() == 0 && hasWriteAheadJournal()) return refuse(SQLITE_CORRUPT, u"its content is gone"_s);
   const int fd = ::open(m_file.bytes().constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
   if (fd >= 0)
     ::close(fd);
-  else if (errno != EEXIST) {
-    m_error = IoResult::failure(errno, u"making %1"_s.arg(m_file.Name())).message();
-    return SQLITE_CANTOPEN;
-  }
+  else if (errno != EEXIST)
+    return refuse(SQLITE_CANTOPEN, IoResult::failure(errno, u"making it"_s).message());
   return SQLITE_OK;
 }
 
 int Opening::connect() {
   const int code = sqlite3_open_v2(m_file.bytes().constData(), &m_db,
                                    SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr);
-  if (code != SQLITE_OK) return fail(code);
-  if (sqlite3_db_readonly(m_db, "main") == 1) {
-    m_error = u"%1: the file is write-protected"_s.arg(m_file.Name());
-    return SQLITE_READONLY;
-  }
+  if (tell(code) != SQLITE_OK) return code;
+  if (sqlite3_db_readonly(m_db, "main") == 1) return refuse(SQLITE_READONLY, u"the file is write-protected"_s);
+  // Until the file has proved to be whole, its journal is not to be merged or removed.
+  keepJournalOnClose(true);
+  return SQLITE_OK;
+}
+
+/// With exclusive access SQLite reads a write-ahead journal without shared memory.
+int Opening::leaveWriteAhead() {
+  for (const char* step : {"PRAGMA locking_mode=EXCLUSIVE", "PRAGMA journal_mode=DELETE", "PRAGMA locking_mode=NORMAL"})
+    if (const int code = tell(run(step)); code != SQLITE_OK) return code;
   return SQLITE_OK;
 }
 
@@ -105,29 +144,29 @@ int Opening::connect() {
 /// table while the journal is still a rollback journal: a kill in between leaves an empty file again.
 int Opening::lookAtContent() {
   std::string pages;
-  if (const int code = run("PRAGMA page_count", &pages); code != SQLITE_OK) return fail(code);
-  if (pages == "0") {
-    const int code = run(CreateTable);
-    return code == SQLITE_OK ? code : fail(code);
-  }
-  if (const int code = run("select count(*) from sqlite_master"); code != SQLITE_OK) return fail(code);
+  if (const int code = tell(run("PRAGMA page_count", &pages)); code != SQLITE_OK) return code;
+  if (const int code = checkLength(); code != SQLITE_OK) return code;
+  if (pages == "0") return tell(run(CreateTable));
+  if (const int code = tell(run("select count(*) from sqlite_master")); code != SQLITE_OK) return code;
   const int code = run("select max(_rowid) from log");
   // Without the table the file stays as it is, and each insert tells.
-  return code == SQLITE_OK || code == SQLITE_ERROR ? SQLITE_OK : fail(code);
+  return code == SQLITE_ERROR ? SQLITE_OK : tell(code);
 }
 
-/// Some file systems offer no shared memory, and some only say so at the first transaction: hence the empty one.
-int Opening::chooseJournal() {
-  if (const int code = run("PRAGMA synchronous=FULL"); code != SQLITE_OK) return fail(code);
-  int code = SQLITE_OK;
-  for (const char* mode : {"PRAGMA journal_mode=WAL", "PRAGMA journal_mode=DELETE"}) {
-    code = run(mode);
-    if (code == SQLITE_OK) code = run("begin immediate");
-    if (code == SQLITE_OK) code = run("rollback");
-    if (code == SQLITE_OK) return code;
-    m_error = words(m_db, m_file);
-  }
-  return code;
+/// SQLite reads a last page that was cut as one that ends in zeros, rows and all. With a journal beside the file the
+/// page may be whole there.
+int Opening::checkLength() {
+  std::string pageSize;
+  if (const int code = tell(run("PRAGMA page_size", &pageSize)); code != SQLITE_OK) return code;
+  const bool whole = m_file.Length() % std::stoll(pageSize) == 0;
+  return whole || hasWriteAheadJournal() ? SQLITE_OK : refuse(SQLITE_CORRUPT, u"its end is cut off"_s);
+}
+
+/// An empty transaction, with every lock that an insert takes.
+int Opening::probe() {
+  for (const char* step : {"PRAGMA synchronous=FULL", "begin immediate", "rollback"})
+    if (const int code = tell(run(step)); code != SQLITE_OK) return code;
+  return SQLITE_OK;
 }
 
 int Opening::run(const char* statement, std::string* firstValue) {
@@ -193,7 +232,7 @@ std::optional<qint64> LogDatabase::insert(const LogRow& row, QString* error) {
     *error = words(m_db, m_file);
   // The outcome is known already; the reset repeats its code.
   sqlite3_reset(m_insert);
-  sqlite3_clear_bindings(m_insert);
+  if (m_insert) sqlite3_clear_bindings(m_insert);
   return rowid;
 }
 

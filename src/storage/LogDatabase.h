@@ -16,7 +16,7 @@ struct sqlite3_stmt;
 
 /// The columns a row is written with, without `_rowid`, in the order of the table.
 struct LogRow {
-  QString OriginalName, NewName, InputFolder, OutputFolder, Track, EventTime, Notes;
+  QString OriginalName{}, NewName{}, InputFolder{}, OutputFolder{}, Track{}, EventTime{}, Notes{};
 };
 
 class LogDatabase {

@@ -15,7 +15,7 @@ QString nameAside(const QString& name, const QString& moment, int number) {
   const QString stem = point > 0 ? name.first(point) : name;
   const QString ending = point > 0 ? name.sliced(point) : QString();
   const QString counter = number > 1 ? u" %1"_s.arg(number) : QString();
-  return stem + u" damaged " + moment + counter + ending;
+  return stem + u" damaged "_s + moment + counter + ending;
 }
 
 IoResult rename(const FolderItem& folder, const QString& from, const QString& to) {

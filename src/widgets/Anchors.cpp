@@ -24,8 +24,10 @@ void Anchors::arrange(const Placed& placed) const {
 }
 
 static void alongOneAxis(int& start, int& length, bool nearEdge, bool farEdge, int growth) {
-  if (nearEdge && farEdge) length = qMax(0, length + growth);
-  else if (farEdge) start += growth;
+  if (nearEdge && farEdge)
+    length = qMax(0, length + growth);
+  else if (farEdge)
+    start += growth;
 }
 
 QRect anchoredGeometry(QRect at, Edges anchored, QSize growth) {

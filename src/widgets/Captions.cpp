@@ -40,6 +40,5 @@ QString onOneLine(const QString& text, qsizetype limit) {
 }
 
 QString plainToolTip(const QString& text) {
-  return text.isEmpty() ? QString()
-                        : u"<qt>"_s + text.toHtmlEscaped().replace(u'\n', u"<br>"_s) + u"</qt>"_s;
+  return text.isEmpty() ? QString() : u"<qt>"_s + text.toHtmlEscaped().replace(u'\n', u"<br>"_s) + u"</qt>"_s;
 }

@@ -214,10 +214,10 @@ class tst_Pipeline : public QObject {
     bench.service.whenBodyReaches(1, [&] { bench.drop(u"0 later.txt"_s); });
     const TaskPointer task = bench.makeTask();
     EngineBench::process(*task);
-    bench.clock.advance(4);
-    EngineBench::process(*task);
-    bench.clock.advance(4);
-    EngineBench::process(*task);
+    for (int pass = 0; pass < 3; ++pass) {
+      bench.clock.advance(4);
+      EngineBench::process(*task);
+    }
     QCOMPARE(bench.received(), (QStringList{u"a.txt"_s, u"0 later.txt"_s}));
   }
 

@@ -55,6 +55,10 @@ class WindowFixture {
     task.Name = name;
     if (!task.save(UploaderTask::TaskDirectory().Child(fileName))) qFatal("cannot store a task");
   }
+  static void loadOneTask() {
+    storeTask(QStringLiteral("A"), QStringLiteral("a.vnt"));
+    UploaderTask::Load();
+  }
 
   /// The window, made at the first call; its start-up calls are kept in `startUp`.
   VTUploaderMainWIndow& window() {

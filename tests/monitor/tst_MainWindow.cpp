@@ -60,8 +60,7 @@ class tst_MainWindow : public QObject {
 
   void theListHasItsColumns() {
     WindowFixture fixture;
-    WindowFixture::storeTask(u"A"_s, u"a.vnt"_s);
-    UploaderTask::Load();
+    WindowFixture::loadOneTask();
     fixture.window().show();
     fixture.window().ListTasks();
     QTreeView* const list = fixture.list();
@@ -70,9 +69,7 @@ class tst_MainWindow : public QObject {
       headings << list->model()->headerData(i, Qt::Horizontal).toString();
     QCOMPARE(headings, (QStringList{u"Status"_s, u"Task Name"_s, u"Task Description"_s, u"Files"_s}));
     QCOMPARE(list->visualRect(list->model()->index(0, 0)).height(), 24);
-    const auto widths = [list] {
-      return QList<int>{list->columnWidth(0), list->columnWidth(1), list->columnWidth(3)};
-    };
+    const auto widths = [list] { return QList<int>{list->columnWidth(0), list->columnWidth(1), list->columnWidth(3)}; };
     const int description = list->columnWidth(2);
     QCOMPARE(widths(), (QList<int>{53, 150, 54}));
     fixture.window().resize(850, 450);
@@ -100,8 +97,7 @@ class tst_MainWindow : public QObject {
 
   void aSelectionEnablesTheCommandsAndARebuildTakesItAway() {
     WindowFixture fixture;
-    WindowFixture::storeTask(u"A"_s, u"a.vnt"_s);
-    UploaderTask::Load();
+    WindowFixture::loadOneTask();
     const auto enabled = [&fixture] {
       QStringList names;
       for (const QPushButton* const button : fixture.window().findChildren<QPushButton*>())
@@ -138,55 +134,46 @@ class tst_MainWindow : public QObject {
     QCOMPARE(fixture.names(), QStringList{u"A"_s});
   }
 
-  void duplicatingAddsARow() {
+  void duplicatingAddsARowOrTellsWhyNot() {
     WindowFixture fixture;
-    WindowFixture::storeTask(u"A"_s, u"a.vnt"_s);
-    UploaderTask::Load();
+    WindowFixture::loadOneTask();
     fixture.window().ListTasks();
     fixture.select(0);
     fixture.press("DuplicateButton");
     QCOMPARE(fixture.names(), (QStringList{u"A"_s, u"A Copy"_s}));
     QCOMPARE(taskFiles().size(), 2);
-  }
 
-  void aDuplicateThatCannotBeWrittenIsTold() {
-    WindowFixture fixture;
-    WindowFixture::storeTask(u"A"_s, u"a.vnt"_s);
-    UploaderTask::Load();
-    fixture.window().ListTasks();
-    fixture.select(0);
     QVERIFY(QDir(UploaderTask::TaskDirectory().NativePath()).removeRecursively());
+    fixture.select(0);
     const Answer ok(QMessageBox::Ok);
     fixture.press("DuplicateButton");
     QVERIFY2(ok.question().startsWith(u"The task could not be duplicated. "_s), qPrintable(ok.question()));
     QVERIFY(ok.question().size() > 40);
-    QCOMPARE(fixture.names(), QStringList{u"A"_s});
+    QCOMPARE(fixture.names().size(), 2);
   }
 
   void aWindowThatIsNotThereIsSaidInTheStrip_data() {
     QTest::addColumn<QString>("what");
-    QTest::newRow("NewButton") << VTULocalization::klEditTask();
-    QTest::newRow("EditButton") << VTULocalization::klEditTask();
-    QTest::newRow("AdminButton") << VTULocalization::klAdmin();
-    QTest::newRow("ShowLogbutton") << VTULocalization::klShowLog();
+    QTest::newRow("NewButton") << u"The task editor is not part of this build yet."_s;
+    QTest::newRow("EditButton") << u"The task editor is not part of this build yet."_s;
+    QTest::newRow("AdminButton") << u"The admin window is not part of this build yet."_s;
+    QTest::newRow("ShowLogbutton") << u"The log viewer is not part of this build yet."_s;
   }
   void aWindowThatIsNotThereIsSaidInTheStrip() {
     QFETCH(QString, what);
     WindowFixture fixture;
-    WindowFixture::storeTask(u"A"_s, u"a.vnt"_s);
-    UploaderTask::Load();
+    WindowFixture::loadOneTask();
     UploadThread::Enabled = true;
     fixture.window().ListTasks();
     fixture.select(0);
     fixture.press(QTest::currentDataTag());
-    QVERIFY2(fixture.strip().startsWith(what.chopped(3)), qPrintable(fixture.strip()));
+    QCOMPARE(fixture.strip(), what);
     QVERIFY(UploadThread::Enabled);
   }
 
   void editingKeepsTheUploadAway() {
     WindowFixture fixture;
-    WindowFixture::storeTask(u"A"_s, u"a.vnt"_s);
-    UploaderTask::Load();
+    WindowFixture::loadOneTask();
     QStringList edited;
     bool enabledMeanwhile = true;
     fixture.commands.editTask = [&](const TaskPointer& task) {
@@ -230,8 +217,7 @@ class tst_MainWindow : public QObject {
 
   void theKeyboardReachesTheCommands() {
     WindowFixture fixture;
-    WindowFixture::storeTask(u"A"_s, u"a.vnt"_s);
-    UploaderTask::Load();
+    WindowFixture::loadOneTask();
     int edited = 0;
     fixture.commands.editTask = [&edited](const TaskPointer&) { return ++edited < 0; };
     fixture.window().show();
@@ -266,5 +252,5 @@ class tst_MainWindow : public QObject {
   }
 };
 
-VANTRY_TEST(tst_MainWindow)
+VANTRY_TEST(tst_MainWindow);
 #include "tst_MainWindow.moc"

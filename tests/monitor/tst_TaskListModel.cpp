@@ -102,5 +102,5 @@ class tst_TaskListModel : public QObject {
   }
 };
 
-VANTRY_TEST(tst_TaskListModel)
+VANTRY_TEST(tst_TaskListModel);
 #include "tst_TaskListModel.moc"

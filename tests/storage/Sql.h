@@ -8,10 +8,7 @@
 
 class Sql {
  public:
-  explicit Sql(const QString& path) {
-    if (sqlite3_open_v2(path.toUtf8().constData(), &m_db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr) != 0)
-      qFatal("cannot open %s", qPrintable(path));
-  }
+  explicit Sql(const QString& path) { sqlite3_open(path.toUtf8().constData(), &m_db); }
   ~Sql() {
     sqlite3_finalize(m_open);
     sqlite3_close_v2(m_db);
@@ -19,27 +16,18 @@ class Sql {
   Sql(const Sql&) = delete;
   Sql& operator=(const Sql&) = delete;
 
-  /// The first column of every row; a failure gives its words alone.
+  /// The first column of every row; the words of a failure stand last.
   QStringList run(const char* statement) {
-    begin(statement);
     QStringList values;
-    while (step()) values << value(0);
-    if (sqlite3_errcode(m_db) != SQLITE_OK && sqlite3_errcode(m_db) != SQLITE_DONE)
-      values = QStringList{QString::fromUtf8(sqlite3_errmsg(m_db))};
-    end();
+    for (begin(statement); step();) values << QString::fromUtf8(sqlite3_column_text(m_open, 0));
+    if (sqlite3_errcode(m_db) != SQLITE_DONE && sqlite3_errcode(m_db) != SQLITE_OK)
+      values << QString::fromUtf8(sqlite3_errmsg(m_db));
+    sqlite3_finalize(std::exchange(m_open, nullptr));
     return values;
   }
   /// A statement that stays open between its rows.
   void begin(const char* statement) { sqlite3_prepare_v2(m_db, statement, -1, &m_open, nullptr); }
-  bool step() { return m_open && sqlite3_step(m_open) == SQLITE_ROW; }
-  QString value(int column) {
-    const void* text = sqlite3_column_text16(m_open, column);
-    return QString(static_cast<const QChar*>(text), sqlite3_column_bytes16(m_open, column) / 2);
-  }
-  void end() {
-    sqlite3_finalize(m_open);
-    m_open = nullptr;
-  }
+  bool step() { return sqlite3_step(m_open) == SQLITE_ROW; }
 
  private:
   sqlite3* m_db = nullptr;

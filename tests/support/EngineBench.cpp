@@ -18,6 +18,7 @@ using namespace Qt::Literals::StringLiterals;
 EngineBench::EngineBench() : clock(Date().TotalSeconds()) {
   DictionaryFile::setSolutionKey(u"KestrelMoonOVJT"_s);
   UploadThread::allowAgain();
+  UploadThread::Enabled = true;
   setEngineClock(&clock);
   if (!service.start()) qFatal("%s", qPrintable(service.errorString()));
   VantryUtil::setExtraCaFile(service.caFile());

@@ -1,0 +1,18 @@
+#pragma once
+// The task list's view: four columns of which the description takes the spare width, one row selected at most, no
+// grid. Main thread.
+
+#include <QTreeView>
+
+class TaskListModel;
+
+class TaskListView : public QTreeView {
+ public:
+  TaskListView(TaskListModel* model, QWidget* parent);
+
+  /// The selected row, -1 for none.
+  [[nodiscard]] int ListIndex() const;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+};
