@@ -19,6 +19,7 @@ class ScriptedServer {
     bool wait(int milliseconds);  ///< false if the server is being taken down
     void reset();                 ///< ends the connection with a reset
     void pipeTo(int port);        ///< carries bytes both ways between it and a port on 127.0.0.1, to the end
+    [[nodiscard]] int descriptor() const { return m_socket; }
 
    private:
     friend class ScriptedServer;
