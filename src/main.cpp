@@ -9,6 +9,7 @@
 
 #include "EndSignals.h"
 #include "SingleInstance.h"
+#include "editor/EditTaskWindow.h"
 #include "engine/App.h"
 #include "engine/StartUp.h"
 #include "engine/UploadThread.h"
@@ -17,11 +18,13 @@
 #include "text/Placeholders.h"
 #include "text/VTULocalization.h"
 #include "version.h"
+#include "widgets/BackgroundCall.h"
 #include "widgets/Pictures.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 static constexpr int StopLimitMs = 2000;
+static constexpr int CallsLimitMs = 300;  // of windows, whose answers nobody waits for any more
 
 static void tell(const QString& text) { QMessageBox::warning(nullptr, QString::fromLatin1(AppDisplayName), text); }
 
@@ -54,7 +57,12 @@ int main(int argc, char** argv) {
       return 1;
   }
 
-  VTUploaderMainWIndow window;
+  MainWindowCommands commands;
+  VTUploaderMainWIndow* shown = nullptr;
+  commands.createNewTask = [&shown] { return EditTaskWindow::CreateNewTask(shown); };
+  commands.editTask = [&shown](const TaskPointer& task) { return EditTaskWindow::EditTask(task, shown); };
+  VTUploaderMainWIndow window(commands);
+  shown = &window;
   QObject::connect(&instance, &SingleInstance::showRequested, &window, [&window] {
     window.showNormal();
     window.raise();
@@ -71,8 +79,9 @@ int main(int argc, char** argv) {
   UploadThread::Enabled = false;
   const bool startUpEnded = StartUp::stop(StopLimitMs);
   const bool uploadEnded = UploadThread::stop(StopLimitMs);
+  const bool callsEnded = BackgroundCall::waitForAll(CallsLimitMs);
   App::Event_Close();
   // A thread that hangs in the kernel on a dead share can't be waited for, and nothing may be torn down under it.
-  if (!startUpEnded || !uploadEnded) _exit(exitCode);
+  if (!startUpEnded || !uploadEnded || !callsEnded) _exit(exitCode);
   return exitCode;
 }

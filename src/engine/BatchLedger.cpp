@@ -29,13 +29,13 @@ BatchLedger::Fingerprint BatchLedger::fingerprint(const ScannedFile& file) {
   return qFromLittleEndian<quint64>(hash.result().constData());
 }
 
-bool BatchLedger::atRest(const ScannedFile& file, const Date& began, qint64 monotonicMs) {
+BatchLedger::Rest BatchLedger::rest(const ScannedFile& file, const Date& began, qint64 monotonicMs) const {
   // Within one step of the date a change of content may not show, so the rest begins a step later.
   const qint64 stepMs = dateStepMs(file.version.mtimeNs);
-  const auto known = m_observed.find(file.name);
-  if (known != m_observed.end()) {
-    if (known->version != file.version) *known = {file.version, monotonicMs};
-    return monotonicMs - known->movedAtMs >= RestMs + stepMs;
+  const auto known = m_observed.constFind(file.name);
+  if (known != m_observed.cend()) {
+    const Observation seen = known->version == file.version ? *known : Observation{file.version, monotonicMs};
+    return {seen, monotonicMs - seen.movedAtMs >= RestMs + stepMs};
   }
   // Seen for the first time: its date tells how long it has been at rest, unless the date can't be trusted. A file
   // that appeared since the last look but is dated before it comes from a clock that runs behind, or was copied with
@@ -45,37 +45,52 @@ bool BatchLedger::atRest(const ScannedFile& file, const Date& began, qint64 mono
   const double lastLook = m_lastLook > 0 ? m_lastLook : m_limit;
   const bool trusted = ageMs >= 0 && date >= lastLook - static_cast<double>(stepMs) / 1000 - KernelTick;
   const qint64 restedMs = trusted ? ageMs : 0;
-  m_observed.insert(file.name, {file.version, monotonicMs - restedMs});
-  return restedMs >= RestMs + stepMs;
+  return {{file.version, monotonicMs - restedMs}, restedMs >= RestMs + stepMs};
 }
 
-BatchLedger::Selection BatchLedger::look(const std::vector<ScannedFile>& listing, double dateLimit, const Date& began,
-                                         qint64 monotonicMs) {
+void BatchLedger::takeLimit(double dateLimit) {
   if (dateLimit < m_limit) {
     m_dealtWith.clear();
     m_observed.clear();
     m_lastLook = 0;
   }
   m_limit = dateLimit;
-  const bool trustLimitAlone = !m_hasMemory;
-  m_hasMemory = true;
+}
+
+BatchLedger::Judgement BatchLedger::judgeVersion(const ScannedFile& file, const Date& began, qint64 monotonicMs) const {
+  const Fingerprint print = fingerprint(file);
+  if (m_dealtWith.contains(print)) return {Verdict::DealtWith, print, {}};
+  // Without a memory the limit is all that an earlier run left us.
+  if (!m_hasMemory && secondsOf(file.version.mtimeNs) <= m_limit) return {Verdict::Older, print, {}};
+  const Rest found = rest(file, began, monotonicMs);
+  return {found.longEnough ? Verdict::Due : Verdict::StillMoving, print, found};
+}
+
+Verdict BatchLedger::judge(const ScannedFile& file, double dateLimit, const Date& began, qint64 monotonicMs) const {
+  if (dateLimit == m_limit) return judgeVersion(file, began, monotonicMs).verdict;
+  BatchLedger then(*this);
+  then.takeLimit(dateLimit);
+  return then.judgeVersion(file, began, monotonicMs).verdict;
+}
+
+BatchLedger::Selection BatchLedger::look(const std::vector<ScannedFile>& listing, double dateLimit, const Date& began,
+                                         qint64 monotonicMs) {
+  takeLimit(dateLimit);
   m_lastListing.clear();
   m_waiting.clear();
 
   Selection selection;
   QHash<QByteArray, Observation> stillObserved;
   for (const ScannedFile& file : listing) {
-    const Fingerprint print = fingerprint(file);
-    m_lastListing.insert(print);
-    if (m_dealtWith.contains(print)) continue;
-    if (trustLimitAlone && secondsOf(file.version.mtimeNs) <= dateLimit) {
-      m_dealtWith.insert(print, file.version.mtimeNs);  // an earlier run sent it: the limit is all it left us
-      continue;
-    }
-    (atRest(file, began, monotonicMs) ? selection.due : m_waiting).push_back(file);
-    const auto observed = m_observed.constFind(file.name);
-    if (observed != m_observed.cend()) stillObserved.insert(file.name, *observed);
+    const Judgement judged = judgeVersion(file, began, monotonicMs);
+    m_lastListing.insert(judged.print);
+    if (judged.verdict == Verdict::Older) m_dealtWith.insert(judged.print, file.version.mtimeNs);
+    if (judged.verdict == Verdict::Due) selection.due.push_back(file);
+    if (judged.verdict == Verdict::StillMoving) m_waiting.push_back(file);
+    if (judged.verdict == Verdict::Due || judged.verdict == Verdict::StillMoving)
+      stillObserved.insert(file.name, judged.rest.seen);
   }
+  m_hasMemory = true;
   m_observed.swap(stillObserved);
   m_lastLook = began.TotalSeconds();
   selection.waiting = m_waiting;

@@ -8,6 +8,7 @@
 #include <QSet>
 #include <vector>
 
+#include "engine/DueRules.h"
 #include "platform/Date.h"
 #include "platform/FolderScan.h"
 
@@ -32,6 +33,8 @@ class BatchLedger {
   /// here was set back by the user: the memory is dropped and all is due again.
   [[nodiscard]] Selection look(const std::vector<ScannedFile>& listing, double dateLimit, const Date& began,
                                qint64 monotonicMs);
+  /// What look() would say of one file at that moment: Due, StillMoving, DealtWith or Older.
+  [[nodiscard]] Verdict judge(const ScannedFile& file, double dateLimit, const Date& began, qint64 monotonicMs) const;
   /// This version was sent or has failed: it isn't due again.
   void dealtWith(const ScannedFile& file);
   /// The file moved while it was read: it waits like one that is being written.
@@ -53,7 +56,19 @@ class BatchLedger {
   };
   using Fingerprint = quint64;
   [[nodiscard]] static Fingerprint fingerprint(const ScannedFile& file);
-  [[nodiscard]] bool atRest(const ScannedFile& file, const Date& began, qint64 monotonicMs);
+  struct Rest {
+    Observation seen;
+    bool longEnough = false;
+  };
+  struct Judgement {
+    Verdict verdict;
+    Fingerprint print;
+    Rest rest;  // empty for a version that is not asked whether it rests
+  };
+  [[nodiscard]] Judgement judgeVersion(const ScannedFile& file, const Date& began, qint64 monotonicMs) const;
+  [[nodiscard]] Rest rest(const ScannedFile& file, const Date& began, qint64 monotonicMs) const;
+  /// Drops the memory if the limit was set back.
+  void takeLimit(double dateLimit);
 
   QHash<Fingerprint, qint64> m_dealtWith;  // fingerprint of name, size and date -> date in ns
   QHash<QByteArray, Observation> m_observed;  // of the last listing, without what is dealt with

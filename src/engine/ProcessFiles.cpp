@@ -88,12 +88,12 @@ void Batch::sendAll() {
     look = m_task.lookAtInputFolder();
   }
   if (look.result.ok() && look.files.due.empty()) limit = look.began;
-  m_task.updateDateLimit(false, m_task.ledger().close(limit));
+  m_task.closeBatch(limit);
 }
 
 void Batch::tellLedger() {
   m_keeping.wait();
-  for (const ScannedFile& scanned : std::exchange(m_kept, {})) m_task.ledger().dealtWith(scanned);
+  for (const ScannedFile& scanned : std::exchange(m_kept, {})) m_task.dealtWith(scanned);
 }
 
 void Batch::settle() {
@@ -107,7 +107,7 @@ bool Batch::process(const ScannedFile& scanned) {
   const Attempt attempt = send(file, scanned, newName);
   if (attempt.outcome == Sent::Stopped) return false;
   if (attempt.outcome == Sent::Moving) {
-    m_task.ledger().foundMoving(scanned, engineClock().monotonicMs());
+    m_task.foundMoving(scanned);
     return true;
   }
   if (attempt.outcome == Sent::Good) ++m_task.UploadedCount;

@@ -17,21 +17,21 @@ std::mutex mountMutex;  // guards the three below
 bool mtriedAutoMount = false;
 qint64 lastAutomountAttempt = 0;
 UploaderTask::MountOperation mountOperation;
+}  // namespace
 
-QString mount(const MountRequest& request) {
-  UploaderTask::MountOperation operation;
+QString UploaderTask::mountNow(const MountRequest& request, int& errorCode) {
+  MountOperation operation;
   {
     const std::lock_guard lock(mountMutex);
     operation = mountOperation;
   }
-  int errorCode = 0;
+  errorCode = 0;
   try {
     return operation ? operation(request, errorCode) : mountShare(request, errorCode);
   } catch (const std::exception&) {
     return {};
   }
 }
-}  // namespace
 
 bool UploaderTask::triedAutoMount() {
   const std::lock_guard lock(mountMutex);
@@ -68,7 +68,8 @@ void UploaderTask::TryAutoMount(bool input) {
   request.url = url.replace(u' ', u"%20"_s);
   request.userName = input ? InputLogin : outputLogin;
   request.password = input ? inputPassword : outputPassword;
-  const bool mounted = !mount(request).trimmed().isEmpty();
+  int errorCode = 0;
+  const bool mounted = !mountNow(request, errorCode).trimmed().isEmpty();
   const auto fresh = FolderItem::fromNativePath(path);
   setTriedAutoMount(!mounted || !fresh);
   if (mounted && fresh) handle = fresh;

@@ -88,6 +88,19 @@ IoResult UploaderTask::RemoveTask(const TaskPointer& task) {
   return task->MarkToDelete();
 }
 
+IoResult UploaderTask::replaceTask(const TaskPointer& old, const TaskPointer& replacement) {
+  bool replaced = false;
+  {
+    const std::lock_guard lock(listMutex);
+    replaced = list.removeOne(old);
+    list.append(replacement);
+    std::stable_sort(list.begin(), list.end(), before);
+  }
+  if (!replaced) return {};
+  clearProblemsOf(old->Name);
+  return old->MarkToDelete();
+}
+
 IoResult UploaderTask::MarkToDelete() {
   if (!file) return {};
   FolderItem marked = file->Parent().Child(file->Name().chopped(4) + u".del"_s);
@@ -115,13 +128,20 @@ void UploaderTask::DistinctName(FolderItem& item) {
   item = candidate;
 }
 
+FolderItem UploaderTask::newTaskFile(const FolderItem& folder, const QString& name) {
+  QString stem = cutToBytes(name, longestFileName - 40);
+  if (stem.startsWith(u'.')) stem[0] = u'_';  // a hidden file would not be loaded again
+  const QString seconds = QString::number(static_cast<qint64>(Date().TotalSeconds()));
+  FolderItem item = folder.Child(stem + u' ' + seconds + u".VNT"_s);
+  DistinctName(item);
+  return item;
+}
+
 bool UploaderTask::duplicateTask(const TaskPointer& task, IoResult* failure) {
   const auto copy = std::make_shared<UploaderTask>();
   IoResult result = task->file ? copy->open(*task->file) : IoResult::failure(ENOENT, task->Name);
   if (result.ok()) {
-    const QString ending = u" "_s + QString::number(static_cast<qint64>(Date().TotalSeconds())) + u".VNT"_s;
-    FolderItem copyFile = task->file->Parent().Child(cutToBytes(task->Name + u" Copy"_s, longestFileName - 40) + ending);
-    DistinctName(copyFile);
+    const FolderItem copyFile = newTaskFile(task->file->Parent(), task->Name + u" Copy"_s);
     copy->disabled = true;
     copy->Name += u" Copy"_s;
     if (copy->save(copyFile, &result)) {

@@ -12,50 +12,19 @@ void UploaderTask::setExclusionPattern(const QString& pattern) {
   buildExclusionRegEx();
 }
 
-void UploaderTask::buildExclusionRegEx() {
-  exclusionRegEx.reset();
-  const QString pattern = mExclusionPattern.trimmed();
-  if (!pattern.isEmpty()) exclusionRegEx.emplace(pattern);
-}
+void UploaderTask::buildExclusionRegEx() { exclusionRegEx = exclusionOf(mExclusionPattern); }
 
 bool UploaderTask::matchesExclusion(const QString& name) const {
-  if (!exclusionRegEx || !exclusionRegEx->isValid()) return false;
-  const RegExMatch match = exclusionRegEx->Search(name);
-  switch (match.outcome) {
-    case RegExMatch::Outcome::NoMatch:
-      return false;
-    case RegExMatch::Outcome::Match:
-      return !match.SubExpressionString(0).isEmpty();
-    case RegExMatch::Outcome::TooCostly:
-      // The user wanted some files kept back, and this may be one of them.
-      m_exclusionTooCostly = true;
-      Problems::raise(Problem::Kind::ExclusionTooCostly, Name, name);
-      return true;
-  }
-  return false;
-}
-
-static bool matchesPieces(const QString& pattern, QStringView base) {
-  for (const QStringView piece : QStringView(pattern).split(u'*')) {
-    if (piece.trimmed().isEmpty()) continue;
-    const qsizetype at = base.indexOf(piece, 0, Qt::CaseInsensitive);
-    if (at < 0) return false;
-    base = base.mid(at + piece.size());
-  }
-  return true;
+  const Verdict verdict = exclusionVerdict(exclusionRegEx, name);
+  if (verdict == Verdict::ExclusionTooCostly) Problems::raise(Problem::Kind::ExclusionTooCostly, Name, name);
+  return verdict != Verdict::Due;
 }
 
 bool UploaderTask::FileNameMatch(const QString& name) const {
-  QString ext = name.mid(name.lastIndexOf(u'.') + 1);
-  if (!ext.trimmed().isEmpty()) ext.prepend(u'.');
-  const QStringView base = QStringView(name).left(std::max<qsizetype>(0, name.size() - ext.size()));
-
-  bool matches = false;
-  if (FileName.trimmed().isEmpty()) matches = Extension.compare(ext, Qt::CaseInsensitive) == 0;
-  else if (!FileName.contains(u'*')) matches = base.contains(FileName, Qt::CaseInsensitive);
-  else matches = matchesPieces(FileName, base);
-  return matches && !matchesExclusion(name);  // the costliest test last
+  return patternTakes(FileName, Extension, name) && !matchesExclusion(name);
 }
+
+DueRules UploaderTask::dueRules() const { return {Extension, FileName, exclusionRegEx}; }
 
 QString UploaderTask::Rename(const QString& name, const Date& now) const {
   QStringList parts;

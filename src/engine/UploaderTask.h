@@ -8,13 +8,15 @@
 #include <atomic>
 #include <functional>
 #include <memory>
+#include <mutex>
 #include <optional>
 
+#include "engine/BatchLedger.h"
+#include "engine/DueRules.h"
 #include "platform/FolderItem.h"
 #include "platform/IoResult.h"
 #include "platform/RegEx.h"
 #include "platform/System.h"
-#include "engine/BatchLedger.h"
 
 class UploaderTask;
 using TaskPointer = std::shared_ptr<UploaderTask>;
@@ -41,6 +43,7 @@ class UploaderTask {
   // The rules for names; plain functions of the task's settings, any thread.
   [[nodiscard]] bool FileNameMatch(const QString& name) const;
   [[nodiscard]] bool matchesExclusion(const QString& name) const;
+  [[nodiscard]] DueRules dueRules() const;
   [[nodiscard]] bool isFIleNewEnough(double modificationSeconds) const { return modificationSeconds > dateLimit; }
   /// The name under which a file goes to the service and into the output folder, at local time `now`.
   [[nodiscard]] QString Rename(const QString& name, const Date& now) const;
@@ -52,7 +55,8 @@ class UploaderTask {
   [[nodiscard]] qint64 getFileCount();
   void getDateLimit();
   /// Stores the limit in prefs (0 and no ledger for `clear`, otherwise `seconds` and the ledger) and saves prefs.
-  /// Blocks for the disk. A save that fails raises Problem::PreferencesNotSaved; the limit then holds in memory.
+  /// Blocks for the disk; with `clear`, any thread. A save that fails raises Problem::PreferencesNotSaved; the limit
+  /// then holds in memory. A limit that the user cleared during the batch stays cleared.
   void updateDateLimit(bool clear, double seconds = 0);
 
   /// One look at the input folder: the moment it began, and what is due and what still moves.
@@ -63,7 +67,13 @@ class UploaderTask {
   };
   /// Upload thread; blocks for the folder.
   [[nodiscard]] FolderLook lookAtInputFolder();
-  [[nodiscard]] BatchLedger& ledger();
+  // The memory of what was dealt with, guarded; changed by the upload thread alone.
+  void dealtWith(const ScannedFile& scanned);
+  void foundMoving(const ScannedFile& scanned);
+  /// Ends a batch whose last good look began at `began`: stores the new date limit and the memory.
+  void closeBatch(const Date& began);
+  /// Due, StillMoving, DealtWith or Older for a file that passes the rules. Any thread; doesn't touch the disk.
+  [[nodiscard]] Verdict judgeVersion(const ScannedFile& scanned, double limit) const;
 
   // One pass, upload thread.
   /// Rebuilds the folder handles, mounting where the task asks for it, and sets Status to Ready or Fault.
@@ -81,6 +91,8 @@ class UploaderTask {
   using MountOperation = std::function<QString(const MountRequest& request, int& errorCode)>;
   /// What mounts a share; the platform's operation unless a test scripts another.
   static void setMountOperation(MountOperation operation);
+  /// Mounts at once, whether or not a pause runs; an exception of the operation is a failure. Blocks.
+  [[nodiscard]] static QString mountNow(const MountRequest& request, int& errorCode);
 
   /// Renames the task's file to end in ".del", so that it isn't loaded any more.
   IoResult MarkToDelete();
@@ -94,6 +106,12 @@ class UploaderTask {
   /// Takes the task off the list and marks its file; a task that isn't there changes nothing. A file that can't be
   /// marked comes back at the next start: the failure says why.
   static IoResult RemoveTask(const TaskPointer& task);
+  /// Puts an edited task in the place of its old self, as one change of the list, and marks the old one's file; the
+  /// failure says why it could not be marked. An old one that has left the list meanwhile changes nothing here.
+  static IoResult replaceTask(const TaskPointer& old, const TaskPointer& replacement);
+  /// A file of `folder` that is not there yet, for a task of that name: "<name> <seconds>.VNT", with what a file name
+  /// can't hold replaced or cut.
+  [[nodiscard]] static FolderItem newTaskFile(const FolderItem& folder, const QString& name);
   /// Adds a disabled copy named "… Copy" with a file of its own; false, with the reason, when it can't be written.
   [[nodiscard]] static bool duplicateTask(const TaskPointer& task, IoResult* failure = nullptr);
   /// Deletes the marked files. What can't be deleted stays until the next time.
@@ -129,8 +147,10 @@ class UploaderTask {
   void buildExclusionRegEx();
   QString mExclusionPattern;
   std::optional<RegEx> exclusionRegEx;
-  BatchLedger m_ledger;  // upload thread
+  [[nodiscard]] FolderScanResult listInputFolder(double above);
+  BatchLedger& readLedger();
+  mutable std::mutex m_ledgerMutex;  // guards the two below
+  BatchLedger m_ledger;
   bool m_ledgerRead = false;
   bool m_outputSwept = false;
-  mutable std::atomic<bool> m_exclusionTooCostly{false};  // found by the present look
 };

@@ -5,6 +5,7 @@
 
 #include "engine/UploadThread.h"
 #include "monitor/MonitorText.h"
+#include "monitor/WhyNotSent.h"
 #include "text/VTULocalization.h"
 #include "version.h"
 #include "widgets/Anchors.h"
@@ -30,6 +31,7 @@ VTUploaderMainWIndow::VTUploaderMainWIndow(MainWindowCommands commands, QWidget*
   centralWidget()->resize(DesignSize);
   buildControls();
   buildKeys();
+  new WhyNotSent(TaskList, m_model);  // the list owns it
   connectControls();
   TaskList_Change();
   StripRefresher_Action();

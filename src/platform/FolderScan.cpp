@@ -56,6 +56,14 @@ class Scan {
     return std::move(m_result);
   }
 
+  FolderScanResult run(const QByteArray& name) {
+    if (m_open.fd() < 0)
+      fail(errno);
+    else
+      takeEntry(name.constData(), DT_UNKNOWN);
+    return std::move(m_result);
+  }
+
  private:
   void fail(int error) {
     if (m_result.result.ok()) m_result.result = IoResult::failure(error, u"listing "_s + m_folder.NativePath());
@@ -69,24 +77,34 @@ class Scan {
         fail(ECANCELED);
         return false;
       }
-      if (entry->d_name[0] == '.' || !canBePlainFile(entry->d_type)) continue;
-      if (m_rules.nameWanted && !m_rules.nameWanted(QByteArrayView(entry->d_name))) continue;
-      takeFile(entry->d_name);
+      takeEntry(entry->d_name, entry->d_type);
     }
     return true;
+  }
+
+  void leaveOut(const char* name, LeftOut why) const {
+    if (m_rules.leftOut) m_rules.leftOut(QByteArrayView(name), why);
+  }
+
+  void takeEntry(const char* name, unsigned char type) {
+    if (!canBePlainFile(type)) return leaveOut(name, LeftOut::NotPlainFile);
+    if (name[0] == '.') return leaveOut(name, LeftOut::Hidden);
+    if (!m_rules.nameWanted || m_rules.nameWanted(QByteArrayView(name))) takeFile(name);
   }
 
   void takeFile(const char* name) {
     struct stat info {};
     if (::fstatat(m_open.fd(), name, &info, 0) != 0) {
+      const int error = errno;
       // A file that a share fails to tell about may be due: the caller must not take the list for whole.
-      if (!concernsFileAlone(errno)) fail(errno);
-      return;
+      if (!concernsFileAlone(error)) return fail(error);
+      return leaveOut(name, error == EACCES ? LeftOut::Unreadable : LeftOut::NotPlainFile);
     }
-    if (!S_ISREG(info.st_mode) || info.st_size <= 0) return;
+    if (!S_ISREG(info.st_mode)) return leaveOut(name, LeftOut::NotPlainFile);
+    if (info.st_size <= 0) return leaveOut(name, LeftOut::Empty);
     const qint64 mtimeNs = qint64{info.st_mtim.tv_sec} * 1'000'000'000 + info.st_mtim.tv_nsec;
-    if (m_rules.dateWanted && !m_rules.dateWanted(mtimeNs)) return;
-    if (::faccessat(m_open.fd(), name, R_OK, AT_EACCESS) != 0) return;
+    if (m_rules.dateWanted && !m_rules.dateWanted(mtimeNs)) return leaveOut(name, LeftOut::Date);
+    if (::faccessat(m_open.fd(), name, R_OK, AT_EACCESS) != 0) return leaveOut(name, LeftOut::Unreadable);
     m_result.files.push_back({QByteArray(name), {qint64{info.st_size}, mtimeNs}});
   }
 
@@ -100,4 +118,8 @@ class Scan {
 
 FolderScanResult scanFolder(const FolderItem& folder, const FolderScanRules& rules) {
   return Scan(folder, rules).run();
+}
+
+FolderScanResult scanFile(const FolderItem& folder, const QByteArray& name, const FolderScanRules& rules) {
+  return Scan(folder, rules).run(name);
 }

@@ -20,6 +20,9 @@ struct FolderScanResult {
   std::vector<ScannedFile> files;  ///< in order of their names (case-insensitive, ties by exact bytes)
 };
 
+/// Why the scan left an entry out, beside its name.
+enum class LeftOut { Hidden, NotPlainFile, Empty, Date, Unreadable };
+
 struct FolderScanRules {
   /// Called with each visible name (no leading dot), in no order; false leaves the file out without looking at it.
   std::function<bool(QByteArrayView name)> nameWanted;
@@ -27,8 +30,13 @@ struct FolderScanRules {
   std::function<bool(qint64 mtimeNs)> dateWanted;
   /// Asked between files; true ends the pass early with ECANCELED.
   std::function<bool()> stopRequested;
+  /// Told of each entry that is left out for another reason than nameWanted. A name that is gone, or a link that
+  /// leads nowhere, is no plain file.
+  std::function<void(QByteArrayView name, LeftOut why)> leftOut;
 };
 
 /// The visible, readable, non-empty plain files (links followed, folders not descended into) that pass the rules.
-/// Upload thread; blocks for the folder.
+/// Blocks for the folder.
 [[nodiscard]] FolderScanResult scanFolder(const FolderItem& folder, const FolderScanRules& rules);
+/// The same judgement for the one entry of that name; `files` holds it if it passes.
+[[nodiscard]] FolderScanResult scanFile(const FolderItem& folder, const QByteArray& name, const FolderScanRules& rules);

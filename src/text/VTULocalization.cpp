@@ -18,6 +18,8 @@ QList<Entry> entries() {
 #include "text/VTULocalization.inc"
 
 #include "text/Messages.inc"
+
+#include "text/TaskMessages.inc"
 #undef VTU_CONSTANT
 #define VTU_CONSTANT(name, english) {"EditTaskWindow." #name, english},
 #include "text/EditTaskWindowText.inc"
@@ -33,6 +35,8 @@ QList<Entry> entries() {
 #include "text/VTULocalization.inc"
 
 #include "text/Messages.inc"
+
+#include "text/TaskMessages.inc"
 #undef VTU_CONSTANT
 
 static QString textOf(Problem::Kind kind) {

@@ -31,6 +31,8 @@ struct Entry {
 
 #include "text/Messages.inc"
 
+#include "text/TaskMessages.inc"
+
 /// The foot strip's line for a problem, with its subject and detail filled in.
 [[nodiscard]] QString problemText(const Problem& problem);
 

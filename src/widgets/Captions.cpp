@@ -3,21 +3,28 @@
 #include <QFontInfo>
 #include <QFontMetrics>
 
+#include "widgets/Mnemonics.h"
+
 using namespace Qt::Literals::StringLiterals;
 
 constexpr int SmallestPixels = 9;
 constexpr int FrameWidth = 4;  // what the button's style draws on either side of a caption
 
-void setFittedCaption(QPushButton& button, const QString& caption) {
-  const int room = button.width() - 2 * FrameWidth;
-  QFont font = button.font();
+bool fitFont(QWidget& control, const QString& text, int room) {
+  QFont font = control.font();
   int pixels = QFontInfo(font).pixelSize();
   while (pixels > SmallestPixels &&
-         (QFontMetrics(font).horizontalAdvance(caption) > room || QFontMetrics(font).height() > button.height()))
+         (QFontMetrics(font).horizontalAdvance(text) > room || QFontMetrics(font).height() > control.height()))
     font.setPixelSize(--pixels);
-  button.setFont(font);
+  control.setFont(font);
+  return QFontMetrics(font).horizontalAdvance(text) <= room;
+}
+
+void setFittedCaption(QPushButton& button, const QString& caption) {
+  const QString read = withoutMnemonic(caption);
+  const bool fits = fitFont(button, read, button.width() - 2 * FrameWidth);
   button.setText(caption);
-  button.setToolTip(QFontMetrics(font).horizontalAdvance(caption) > room ? plainToolTip(caption) : QString());
+  button.setToolTip(fits ? QString() : plainToolTip(read));
 }
 
 /// U+200E, U+200F, U+061C, the embeddings and overrides, the isolates.

@@ -4,7 +4,11 @@
 #include <QPushButton>
 #include <QString>
 
-/// Sets a button's caption, in a smaller font (down to 9 pixels) when it would be cut at the button's size; one that
+/// Makes a control's font smaller (down to 9 pixels) until `text` fits into `room` pixels and the control's height.
+/// False if it doesn't fit even so.
+bool fitFont(QWidget& control, const QString& text, int room);
+
+/// Sets a button's caption, which may hold a mnemonic, in a smaller font (down to 9 pixels) when it would be cut at the button's size; one that
 /// is cut even so stands whole in the tool tip.
 void setFittedCaption(QPushButton& button, const QString& caption);
 

@@ -40,7 +40,7 @@ class ScriptedServer {
 
   [[nodiscard]] int port() const { return m_port; }
   [[nodiscard]] QString url(const QString& path = {}) const;
-  [[nodiscard]] QByteArray received() const;  ///< all bytes that scripts have read, of all connections
+  [[nodiscard]] QByteArray received() const;  ///< what scripts have read, the first megabyte of it
   /// A script that takes a request without content, answers and closes.
   static Script answer(const QByteArray& reply);
 

@@ -1,0 +1,38 @@
+#include "widgets/Mnemonics.h"
+
+static qsizetype freeLetter(const QString& caption, const QSet<QChar>& used, bool atWordsOnly) {
+  for (qsizetype i = 0; i < caption.size(); ++i) {
+    const bool beginsWord = i == 0 || !caption[i - 1].isLetterOrNumber();
+    if (caption[i].isLetterOrNumber() && (beginsWord || !atWordsOnly) && !used.contains(caption[i].toLower())) return i;
+  }
+  return -1;
+}
+
+QString Mnemonics::mark(const QString& caption) {
+  qsizetype at = freeLetter(caption, m_used, true);
+  if (at < 0) at = freeLetter(caption, m_used, false);
+  QString marked;
+  for (qsizetype i = 0; i < caption.size(); ++i) {
+    if (i == at || caption[i] == u'&') marked += u'&';
+    marked += caption[i];
+  }
+  if (at >= 0) m_used.insert(caption[at].toLower());
+  return marked;
+}
+
+QString Mnemonics::replace(const QString& marked, const QString& caption) {
+  for (qsizetype i = 0; i + 1 < marked.size(); ++i) {
+    if (marked[i] != u'&') continue;
+    if (marked[++i] != u'&') m_used.remove(marked[i].toLower());
+  }
+  return mark(caption);
+}
+
+QString withoutMnemonic(const QString& marked) {
+  QString plain;
+  for (qsizetype i = 0; i < marked.size(); ++i) {
+    if (marked[i] == u'&' && i + 1 < marked.size()) ++i;
+    plain += marked[i];
+  }
+  return plain;
+}

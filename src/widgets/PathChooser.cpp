@@ -1,0 +1,59 @@
+#include "widgets/PathChooser.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QLabel>
+
+using namespace Qt::Literals::StringLiterals;
+
+constexpr int LimitMs = 400;
+
+PathChooser::PathChooser(QWidget* window) : QObject(window), m_window(window), m_question("chooser", this) {}
+
+void PathChooser::choose(What what, const Texts& texts, const std::optional<FolderItem>& initial,
+                         std::function<void(const std::optional<FolderItem>&)> done) {
+  if (m_dialog || m_question.running()) return;
+  m_done = std::move(done);
+  if (!initial) return open(what, texts, QDir::homePath());
+  m_question.run<bool>(
+      LimitMs, [folder = *initial](const auto&) { return folder.Directory() && folder.IsReadable(); },
+      [=, this](bool usable) { open(what, texts, usable ? initial->NativePath() : QDir::homePath()); },
+      [=, this] {
+        m_question.cancel();
+        open(what, texts, QDir::homePath());
+      });
+}
+
+/// Puts the prompt above everything else in the toolkit's own dialog, which knows none.
+static void addPrompt(QFileDialog& dialog, const QString& prompt) {
+  auto* const grid = qobject_cast<QGridLayout*>(dialog.layout());
+  if (prompt.isEmpty() || !grid) return;
+  auto* const label = new QLabel(prompt, &dialog);
+  label->setObjectName(u"PromptText"_s);
+  label->setTextFormat(Qt::PlainText);
+  label->setWordWrap(true);
+  grid->addWidget(label, grid->rowCount(), 0, 1, grid->columnCount());
+}
+
+void PathChooser::open(What what, const Texts& texts, const QString& directory) {
+  auto* const dialog = new QFileDialog(m_window, texts.title, directory);
+  m_dialog = dialog;
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  // The toolkit's own: it shows the prompt, and it reads folders on a thread.
+  dialog->setOption(QFileDialog::DontUseNativeDialog);
+  dialog->setOption(QFileDialog::DontUseCustomDirectoryIcons);
+  dialog->setOption(QFileDialog::ShowDirsOnly, what == What::Folder);
+  dialog->setFileMode(what == What::Folder ? QFileDialog::Directory : QFileDialog::ExistingFile);
+  dialog->setLabelText(QFileDialog::Accept, texts.actionButton);
+  dialog->setLabelText(QFileDialog::Reject, texts.cancelButton);
+  addPrompt(*dialog, texts.prompt);
+  connect(dialog, &QFileDialog::finished, this, [this, dialog](int result) {
+    std::optional<FolderItem> chosen;
+    const QStringList files = dialog->selectedFiles();
+    if (result == QDialog::Accepted && !files.isEmpty()) chosen = FolderItem::fromNativePath(files.first());
+    m_dialog = nullptr;
+    if (const auto done = std::exchange(m_done, {})) done(chosen);
+  });
+  dialog->open();
+}

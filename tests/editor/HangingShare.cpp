@@ -1,0 +1,68 @@
+#include "HangingShare.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <condition_variable>
+#include <cstdarg>
+#include <cstring>
+#include <mutex>
+
+namespace {
+
+struct Gate {
+  std::mutex mutex;  // guards the two below
+  std::condition_variable changed;
+  bool hangs = false;
+  int waiting = 0;
+};
+
+Gate& gate() {
+  static auto* const instance = new Gate;
+  return *instance;
+}
+
+void pass(const char* path) {
+  if (!path || !std::strstr(path, "hanging-share")) return;
+  std::unique_lock lock(gate().mutex);
+  ++gate().waiting;
+  gate().changed.wait(lock, [] { return !gate().hangs; });
+  --gate().waiting;
+  gate().changed.notify_all();
+}
+
+}  // namespace
+
+HangingShare::HangingShare() {
+  const std::lock_guard lock(gate().mutex);
+  gate().hangs = true;
+}
+
+HangingShare::~HangingShare() {
+  std::unique_lock lock(gate().mutex);
+  gate().hangs = false;
+  gate().changed.notify_all();
+  gate().changed.wait(lock, [] { return gate().waiting == 0; });
+}
+
+int HangingShare::waiting() {
+  const std::lock_guard lock(gate().mutex);
+  return gate().waiting;
+}
+
+// The program's own definitions come before the C library's.
+extern "C" int stat(const char* path, struct stat* info) noexcept {
+  pass(path);
+  return ::fstatat(AT_FDCWD, path, info, 0);
+}
+
+extern "C" int open(const char* path, int flags, ...) {
+  va_list arguments;
+  va_start(arguments, flags);
+  const mode_t mode = (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(arguments, mode_t) : 0;
+  va_end(arguments);
+  pass(path);
+  return ::openat(AT_FDCWD, path, flags, mode);
+}
