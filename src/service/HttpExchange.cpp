@@ -89,8 +89,15 @@ bool HttpExchange::connectToPeer() {
   m_peer = usesProxy() ? u"the proxy %1"_s.arg(proxyAuthority()) : m_url.authority();
   const QString host = usesProxy() ? m_request.proxyAddress.trimmed() : m_url.host;
   const int port = usesProxy() ? m_request.proxyPort : m_url.port;
-  NameLookupResult names = lookUpName(host, port, m_peer, m_deadline);
+  NameMemory& memory = NameMemory::process();
+  const auto now = std::chrono::steady_clock::now();
+  NameLookupResult names{memory.recall(host, port, now), {}};
+  if (names.addresses.empty()) {
+    names = lookUpName(host, port, m_peer, m_deadline);
+    if (!names.failure.failed()) memory.remember(host, port, names.addresses, now);
+  }
   if (!names.failure.failed()) names.failure = m_connection.open(names.addresses, m_peer, m_deadline);
+  if (names.failure.failed()) memory.forget(host, port);
   return take(names.failure);
 }
 

@@ -119,3 +119,26 @@ NameLookupResult lookUpName(const QString& host, int port, const QString& peer, 
   }
   return {query->answer.addresses, {}};
 }
+
+NameMemory& NameMemory::process() {
+  static auto& memory = *new NameMemory;
+  return memory;
+}
+
+std::vector<SocketAddress> NameMemory::recall(const QString& host, int port, Moment now) const {
+  const std::lock_guard lock(m_mutex);
+  const auto found = m_entries.find({host, port});
+  if (found == m_entries.end() || now >= found->second.until) return {};
+  return found->second.addresses;
+}
+
+void NameMemory::remember(const QString& host, int port, const std::vector<SocketAddress>& addresses, Moment now) {
+  const std::lock_guard lock(m_mutex);
+  if (m_entries.size() >= MostEntries) m_entries.clear();
+  m_entries.insert_or_assign({host, port}, Entry{addresses, now + Life});
+}
+
+void NameMemory::forget(const QString& host, int port) {
+  const std::lock_guard lock(m_mutex);
+  m_entries.erase({host, port});
+}

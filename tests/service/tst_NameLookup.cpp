@@ -29,6 +29,17 @@ class tst_NameLookup : public QObject {
     (void)lookUpName(u"m\u00fcller.example"_s, 80, u"peer"_s, in(10s), resolver);
     QCOMPARE(asked.get_future().get(), QByteArray("xn--mller-kva.example"));
   }
+  void addressesAreRememberedForAWhileUntilTheyFail() {
+    NameMemory memory;
+    const NameMemory::Moment start{};
+    const QString host = u"a.example"_s;
+    memory.remember(host, 443, {SocketAddress{}}, start);
+    QCOMPARE(memory.recall(host, 443, start + NameMemory::Life - 1ms).size(), size_t{1});
+    QVERIFY(memory.recall(host, 443, start + NameMemory::Life).empty());
+    QVERIFY(memory.recall(host, 80, start).empty());
+    memory.forget(host, 443);
+    QVERIFY(memory.recall(host, 443, start).empty());
+  }
   void aLookupThatHangsIsLeftToItself() {
     const auto finished = std::make_shared<std::counting_semaphore<>>(0);
     std::promise<void> letGo;
