@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdio>
 #include <fstream>
 
@@ -11,6 +12,7 @@ namespace bench {
 
 std::string text(double value, int digits) {
   std::array<char, 64> buffer{};
+  if (std::abs(value) < 0.5 * std::pow(10, -digits)) value = 0;  // and not "-0.00"
   snprintf(buffer.data(), buffer.size(), "%.*f", digits, value);
   return buffer.data();
 }

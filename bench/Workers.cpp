@@ -1,6 +1,5 @@
 #include "Workers.h"
 
-#include <fcntl.h>
 #include <sqlite3.h>
 #include <sys/resource.h>
 #include <unistd.h>
@@ -117,17 +116,6 @@ void idle(const Command& a) {
   work.finish();
 }
 
-LogRow sampleRow(int i) {
-  const QString name = u"measurement %1.txt"_s.arg(i);
-  return {.OriginalName = name,
-          .NewName = u"P_"_s + name,
-          .InputFolder = u"/srv/instruments/spectro 1/out"_s,
-          .OutputFolder = u"/srv/archive/measurements"_s,
-          .Track = u"5f0c2a9e-press-4-coated"_s,
-          .EventTime = u"2024-05-06 07:08:09"_s,
-          .Notes = u"Uploaded to Print Warden - Saved"_s};
-}
-
 /// Log file, rows before, rows: inserts one after another. The rows before bring the log into the state in which it
 /// stays: its side file has its size and is written from its beginning again.
 void insert(const Command& a) {
@@ -161,22 +149,6 @@ void fillLog(const Command& a) {
   sqlite3_close(db);
 }
 
-/// File, times: overwrites its first 4 KiB and makes that durable.
-void overwrite(const Command& a) {
-  std::array<char, 4096> block{};
-  const int file = open(a[0].c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-  const auto once = [&] {
-    ++block[0];
-    if (pwrite(file, block.data(), block.size(), 0) != static_cast<ssize_t>(block.size()) || fdatasync(file) != 0)
-      fail("could not write " + a[0]);
-  };
-  once();
-  Work work;
-  for (int i = 0; i < number(a[1]); ++i) once();
-  work.finish();
-  close(file);
-}
-
 /// Folder for the certificates: serves until its standard input ends, and tells the requests answered when asked.
 void sink(const Command& a) {
   PracticeSink server(QString::fromStdString(a[0]));
@@ -191,12 +163,22 @@ struct Worker {
   void (*run)(const Command& arguments);
 };
 
-constexpr std::array workers{Worker{"send", 4, send},           Worker{"pipeline", 6, pipeline},
-                             Worker{"look", 5, look},           Worker{"idle", 6, idle},
-                             Worker{"insert", 3, insert},       Worker{"fill-log", 2, fillLog},
-                             Worker{"overwrite", 2, overwrite}, Worker{"sink", 1, sink}};
+constexpr std::array workers{Worker{"send", 4, send}, Worker{"pipeline", 6, pipeline}, Worker{"look", 5, look},
+                             Worker{"idle", 6, idle}, Worker{"insert", 3, insert},     Worker{"fill-log", 2, fillLog},
+                             Worker{"sink", 1, sink}};
 
 }  // namespace
+
+LogRow sampleRow(int i) {
+  const QString name = u"measurement %1.txt"_s.arg(i);
+  return {.OriginalName = name,
+          .NewName = u"P_"_s + name,
+          .InputFolder = u"/srv/instruments/spectro 1/out"_s,
+          .OutputFolder = u"/srv/archive/measurements"_s,
+          .Track = u"5f0c2a9e-press-4-coated"_s,
+          .EventTime = u"2024-05-06 07:08:09"_s,
+          .Notes = u"Uploaded to Print Warden - Saved"_s};
+}
 
 int runAsWorker(const Command& arguments) {
   const auto worker = std::find_if(workers.begin(), workers.end(), [&](const Worker& w) {

@@ -4,11 +4,15 @@
 // seconds as `wall` and `cpu`, memory as `peak` in KiB.
 
 #include "Process.h"
+#include "storage/LogDatabase.h"
 
 namespace bench {
 
 /// Runs the worker that `arguments` names, with what follows for it; gives the exit code of the process.
 int runAsWorker(const Command& arguments);
+
+/// A row as a day's work writes them.
+[[nodiscard]] LogRow sampleRow(int i);
 
 /// The path of an access() call that fails; it stands in a trace of system calls where the work begins and ends.
 inline constexpr const char* BeginMark = "/bench-begins";

@@ -12,10 +12,16 @@ static bool isAscii(QByteArrayView bytes) {
 EndingTest::EndingTest(const QString& extension)
     : m_text(extension), m_bytes(extension.toUtf8()), m_ascii(isAscii(m_bytes)) {}
 
-bool EndingTest::mayPass(QByteArrayView name) const {
-  if (!m_ascii || name.size() < m_bytes.size()) return !m_ascii || !isAscii(name);
+EndingTest::Answer EndingTest::ask(QByteArrayView name) const {
+  if (!m_ascii) return Answer::NeedsText;
+  if (name.size() < m_bytes.size()) return isAscii(name) ? Answer::No : Answer::NeedsText;
   const QByteArrayView tail = name.last(m_bytes.size());
-  return !isAscii(tail) || qstrnicmp(tail.data(), m_bytes.constData(), m_bytes.size()) == 0;
+  if (!isAscii(tail)) return Answer::NeedsText;
+  return qstrnicmp(tail.data(), m_bytes.constData(), m_bytes.size()) == 0 ? Answer::Yes : Answer::No;
+}
+
+bool EndingTest::isWhole() const {
+  return m_bytes.startsWith('.') && m_bytes.lastIndexOf('.') == 0 && !m_bytes.mid(1).trimmed().isEmpty();
 }
 
 static bool takesPieces(const QString& pattern, QStringView base) {
@@ -56,7 +62,11 @@ Verdict exclusionVerdict(const std::optional<RegEx>& exclusion, const QString& n
 }
 
 DueRules::DueRules(const QString& extension, const QString& pattern, std::optional<RegEx> exclusion)
-    : m_extension(extension), m_pattern(pattern), m_ending(extension), m_exclusion(std::move(exclusion)) {}
+    : m_extension(extension),
+      m_pattern(pattern),
+      m_ending(extension),
+      m_exclusion(std::move(exclusion)),
+      m_endingDecides(m_ending.isWhole() && pattern.trimmed().isEmpty() && !m_exclusion) {}
 
 Verdict DueRules::judgeName(QByteArrayView raw, std::vector<Verdict>* all) const {
   Verdict first = Verdict::Due;
@@ -65,7 +75,9 @@ Verdict DueRules::judgeName(QByteArrayView raw, std::vector<Verdict>* all) const
     if (all) all->push_back(why);
     return all == nullptr;
   };
-  const bool mayPass = m_ending.mayPass(raw);
+  const EndingTest::Answer ending = m_ending.ask(raw);
+  if (m_endingDecides && ending == EndingTest::Answer::Yes) return Verdict::Due;
+  const bool mayPass = ending != EndingTest::Answer::No;
   if (!mayPass && keepsOut(Verdict::Ending)) return first;
   const QString name = QString::fromUtf8(raw);
   if (mayPass && !m_ending.passes(name) && keepsOut(Verdict::Ending)) return first;

@@ -29,10 +29,14 @@ enum class Verdict {
 /// Tests a name's ending on the raw bytes where both are plain ASCII, which spares nearly all names the conversion.
 class EndingTest {
  public:
+  enum class Answer { No, Yes, NeedsText };
+
   explicit EndingTest(const QString& extension);
-  /// False: the name surely has another ending. Never allocates.
-  [[nodiscard]] bool mayPass(QByteArrayView name) const;
+  /// Never allocates.
+  [[nodiscard]] Answer ask(QByteArrayView name) const;
   [[nodiscard]] bool passes(const QString& name) const { return name.endsWith(m_text, Qt::CaseInsensitive); }
+  /// True if a name that passes has just this ending, from its last dot on.
+  [[nodiscard]] bool isWhole() const;
 
  private:
   QString m_text;
@@ -70,4 +74,5 @@ class DueRules {
   QString m_extension, m_pattern;
   EndingTest m_ending;
   std::optional<RegEx> m_exclusion;
+  bool m_endingDecides;  ///< a name that passes by its ending passes
 };

@@ -1,8 +1,12 @@
 // One batch of one task: every due file is sent, copied, deleted if the task says so, and logged; then the date limit
-// moves. Upload thread.
+// moves. Files are sent on the upload thread; what follows is done in the same order on a thread beside it, so that the
+// next file is on its way while a copy and a row reach the disk.
+
+#include <utility>
 
 #include "engine/EngineActivity.h"
 #include "engine/EngineClock.h"
+#include "engine/OrderedWork.h"
 #include "engine/UploadThread.h"
 #include "engine/UploaderTask.h"
 #include "platform/Problems.h"
@@ -33,7 +37,14 @@ class BusyFlag {
 class Batch {
  public:
   explicit Batch(UploaderTask& task) : m_task(task) {}
-  void run();
+  void run() {
+    try {
+      sendAll();
+    } catch (...) {
+      tellLedger();
+      throw;
+    }
+  }
 
  private:
   enum class Sent { Good, Refused, Gone, Moving, Stopped };
@@ -44,8 +55,15 @@ class Batch {
     QString transport;  // how the exchange failed, for the window
   };
 
+  void sendAll();
   /// False when the batch was broken off: the file counts as not dealt with.
   bool process(const ScannedFile& scanned);
+  /// All that is to be done with a file after it was sent, the log row last.
+  void keep(const FolderItem& file, const ScannedFile& scanned, const QString& newName, const Attempt& attempt);
+  /// Waits until all that was sent is kept, and tells the ledger.
+  void tellLedger();
+  /// The same; throws what a keeping threw.
+  void settle();
   Attempt send(const FolderItem& file, const ScannedFile& scanned, const QString& newName);
   void keepGood(const FolderItem& file, const ScannedFile& scanned, const QString& newName, VantryUtil::LogEntry& entry);
   void keepFailed(const FolderItem& file, const ScannedFile& scanned, const Attempt& attempt,
@@ -53,16 +71,19 @@ class Batch {
   IoResult copy(const FolderItem& file, const ScannedFile& scanned, FolderItem& target) const;
 
   UploaderTask& m_task;
+  std::vector<ScannedFile> m_kept;  // of the keeping thread until settle() has waited for it
+  OrderedWork m_keeping;            // ends before what it uses
 };
 
-void Batch::run() {
+void Batch::sendAll() {
   UploaderTask::FolderLook look = m_task.lookAtInputFolder();
   if (look.files.due.empty()) return;
   Date limit = look.began;
   while (look.result.ok() && !look.files.due.empty()) {
     limit = look.began;
     for (const ScannedFile& scanned : look.files.due)
-      if (UploadThread::stopping() || !process(scanned)) return;
+      if (UploadThread::stopping() || m_keeping.failed() || !process(scanned)) return settle();
+    settle();
     if (!UploadThread::Enabled) break;  // what lands from here on is dated past this look, and waits for the next run
     look = m_task.lookAtInputFolder();
   }
@@ -70,27 +91,44 @@ void Batch::run() {
   m_task.closeBatch(limit);
 }
 
+void Batch::tellLedger() {
+  m_keeping.wait();
+  for (const ScannedFile& scanned : std::exchange(m_kept, {})) m_task.dealtWith(scanned);
+}
+
+void Batch::settle() {
+  tellLedger();
+  m_keeping.throwFailure();
+}
+
 bool Batch::process(const ScannedFile& scanned) {
   const FolderItem file = m_task.inputFolder->ChildBytes(scanned.name);
+  const QString newName = m_task.Rename(file.Name(), engineClock().now());
+  const Attempt attempt = send(file, scanned, newName);
+  if (attempt.outcome == Sent::Stopped) return false;
+  if (attempt.outcome == Sent::Moving) {
+    m_task.foundMoving(scanned);
+    return true;
+  }
+  if (attempt.outcome == Sent::Good) ++m_task.UploadedCount;
+  m_keeping.add([=, this] { keep(file, scanned, newName, attempt); });
+  return true;
+}
+
+void Batch::keep(const FolderItem& file, const ScannedFile& scanned, const QString& newName, const Attempt& attempt) {
   VantryUtil::LogEntry entry;
   entry.setValue(u"InputFolder"_s, m_task.inputFolder->NativePath());
   entry.setValue(u"OutputFolder"_s, m_task.outputFolder ? m_task.outputFolder->NativePath() : u"n/a"_s);
   entry.setValue(u"OriginalName"_s, file.Name());
   entry.setValue(u"Track"_s, m_task.Track);
-
-  const QString newName = m_task.Rename(file.Name(), engineClock().now());
-  const Attempt attempt = send(file, scanned, newName);
   switch (attempt.outcome) {
     case Sent::Stopped:
-      return false;
     case Sent::Moving:
-      m_task.foundMoving(scanned);
-      return true;
+      return;  // nothing was sent whole
     case Sent::Gone:
       entry.setValue(u"Notes"_s, u"File not accessible"_s);
       break;
     case Sent::Good:
-      ++m_task.UploadedCount;
       Problems::clear(Problem::Kind::UploadFailed, m_task.Name);
       keepGood(file, scanned, newName, entry);
       break;
@@ -98,9 +136,8 @@ bool Batch::process(const ScannedFile& scanned) {
       keepFailed(file, scanned, attempt, entry);
       break;
   }
-  m_task.dealtWith(scanned);
+  m_kept.push_back(scanned);
   entry.WriteToLog();
-  return true;
 }
 
 Batch::Attempt Batch::send(const FolderItem& file, const ScannedFile& scanned, const QString& newName) {

@@ -1,6 +1,6 @@
 #pragma once
 // The event log: one SQLite file with the table `log`. This is its one writer; a viewer opens a connection of its own
-// for reading. Guarded inside; rows are written on the upload thread.
+// for reading. Guarded inside; rows are written on the upload thread and the one beside it.
 
 #include <QString>
 #include <QStringList>

@@ -1,5 +1,5 @@
 #pragma once
-// One entry of the event log while it is being filled. Upload thread.
+// One entry of the event log while it is being filled, by one thread.
 
 #include <functional>
 
@@ -14,7 +14,7 @@ class LogEntry : public Dictionary {
   /// written raises Problem::LogRowLost, and the next one that can clears it. Blocks for the disk.
   void WriteToLog();
 
-  /// Who is told of new rows, or none. The call comes on the upload thread and must only queue. Any thread.
+  /// Who is told of new rows, or none. The call comes on the thread that writes the row and must only queue. Any thread.
   static void setRowObserver(std::function<void(qint64 rowid)> observer);
 };
 

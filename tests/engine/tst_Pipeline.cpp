@@ -221,6 +221,25 @@ class tst_Pipeline : public QObject {
     QCOMPARE(bench.received(), (QStringList{u"a.txt"_s, u"0 later.txt"_s}));
   }
 
+  void anExceptionAfterSendingLosesNoRowAndRepeatsNoFile() {
+    EngineBench bench;
+    QStringList names;
+    for (int i = 0; i < 20; ++i) names << u"%1.txt"_s.arg(i, 2, 10, QLatin1Char('0'));
+    for (const QString& name : names) bench.drop(name);
+    const TaskPointer task = bench.makeTask();
+    int rows = 0;
+    VantryUtil::LogEntry::setRowObserver([&](qint64) {
+      if (++rows == 2) throw std::runtime_error("planted");
+    });
+    QVERIFY_THROWS_EXCEPTION(std::runtime_error, EngineBench::process(*task));
+    QVERIFY(bench.received().size() < names.size());
+    QCOMPARE(bench.files(u"out"_s), bench.received());
+    QCOMPARE(bench.log().size(), bench.received().size());
+    EngineBench::process(*task);
+    QCOMPARE(bench.received(), names);
+    QCOMPARE(bench.log().size(), names.size());
+  }
+
   void aCopyThatCannotBeMadeKeepsTheInput() {
     EngineBench bench;
     const QString path = bench.drop(u"a.txt"_s);

@@ -2,8 +2,10 @@
 
 #include <QTest>
 
+#include "engine/UploadThread.h"
 #include "engine/UploaderTask.h"
 #include "platform/Problems.h"
+#include "support/TemporaryHome.h"
 #include "support/TestRunner.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -12,6 +14,8 @@ class tst_TaskNames : public QObject {
   Q_OBJECT
 
  private slots:
+  void init() { UploadThread::allowAgain(); }  // or an earlier stop would end the look at the folder
+
   void matching_data() {
     QTest::addColumn<QString>("extension");
     QTest::addColumn<QString>("pattern");
@@ -27,6 +31,9 @@ class tst_TaskNames : public QObject {
     row("no pattern and an extension without its dot selects nothing", "txt", "", "", "scan.txt", false);
     row("no pattern, longer ending", ".gz", "", "", "scan.tar.gz", true);
     row("no pattern, no extension, no dot in the name", "", "", "", "scan", false);
+    row("no pattern and an extension of two parts selects nothing", ".tar.gz", "", "", "scan.tar.gz", false);
+    row("no pattern and an ending of blanks", ". ", "", "", "scan. ", false);
+    row("no pattern and an extension beyond ASCII", ".\xC3\xA4", "", "", "scan.\xC3\x84", true);
     row("a pattern of blanks is no pattern", ".txt", "  ", "", "scan.txt", true);
     row("without a star the pattern may stand anywhere", ".txt", "foo", "", "xFOOx.txt", true);
     row("the pattern's blanks count", ".txt", " foo", "", "foo.txt", false);
@@ -56,6 +63,13 @@ class tst_TaskNames : public QObject {
     task.FileName = pattern;
     task.setExclusionPattern(exclusion);
     QTEST(task.FileNameMatch(name), "matches");
+
+    // A look at a folder judges most names without this function, and must come to the same.
+    const TemporaryHome home;
+    home.writeFile(u"in/"_s + name, "patch data");
+    task.inputFolder = home.item(u"in"_s);
+    const bool taken = task.FileNameMatch(name) && name.endsWith(extension, Qt::CaseInsensitive);
+    QCOMPARE(task.EvaluateInputFolder().size(), taken ? 1 : 0);
   }
 
   void anExplodingExclusionKeepsTheFileBackAndIsNamed() {
