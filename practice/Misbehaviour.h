@@ -46,5 +46,5 @@ struct Misbehaviour {
   int everyMs = 0;
   bool closeAfter = false;  ///< EarlyError: drops the connection, unread bytes and all; otherwise it stays open
   int times = 1;            ///< requests (or connections) that it befalls; 0: every one until cleared
-  QByteArray method{};        ///< requests of this method alone, such as "SendFile"; empty for any
+  QByteArray method{};      ///< requests of this method alone, such as "SendFile"; empty for any
 };

@@ -1,20 +1,20 @@
 #include "practice/PracticeBooks.h"
 
-#include <QDeadlineTimer>
+#include <chrono>
 
 using Kind = Misbehaviour::Kind;
 
 static bool isOfConnection(Kind kind) { return kind == Kind::SilentHandshake || kind == Kind::CutHandshake; }
 
 quint64 PracticeBooks::beginRequest(const QByteArray& head) {
-  const QMutexLocker lock(&m_mutex);
+  const std::lock_guard lock(m_mutex);
   m_requests[++m_lastId].head = head;
-  m_changed.wakeAll();
+  m_changed.notify_all();
   return m_lastId;
 }
 
 void PracticeBooks::changeRequest(quint64 id, const std::function<void(PracticeRequest&)>& change) {
-  const QMutexLocker lock(&m_mutex);
+  const std::lock_guard lock(m_mutex);
   const auto found = m_requests.find(id);
   if (found != m_requests.end()) change(found->second);  // else it was forgotten meanwhile
 }
@@ -22,9 +22,9 @@ void PracticeBooks::changeRequest(quint64 id, const std::function<void(PracticeR
 void PracticeBooks::addReceipt(const PracticeReceipt& receipt) {
   std::function<void(const PracticeReceipt&)> observer;
   {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     m_receipts.append(receipt);
-    m_changed.wakeAll();
+    m_changed.notify_all();
     observer = m_observer;
   }
   if (observer) observer(receipt);
@@ -32,7 +32,7 @@ void PracticeBooks::addReceipt(const PracticeReceipt& receipt) {
 
 template <typename Fits>
 std::optional<Misbehaviour> PracticeBooks::take(const Fits& fits) {
-  const QMutexLocker lock(&m_mutex);
+  const std::lock_guard lock(m_mutex);
   for (qsizetype i = 0; i < m_misbehaviours.size(); ++i) {
     Misbehaviour& waiting = m_misbehaviours[i];
     if (!fits(waiting)) continue;
@@ -54,13 +54,13 @@ std::optional<Misbehaviour> PracticeBooks::takeForRequest(const QByteArray& meth
 }
 
 std::optional<qint64> PracticeBooks::hookAt(const QByteArray& method) const {
-  const QMutexLocker lock(&m_mutex);
+  const std::lock_guard lock(m_mutex);
   if (!m_hook || (!m_hook->method.isEmpty() && m_hook->method != method)) return std::nullopt;
   return m_hook->bytes;
 }
 
 std::function<void()> PracticeBooks::takeHook() {
-  const QMutexLocker lock(&m_mutex);
+  const std::lock_guard lock(m_mutex);
   std::function<void()> call;
   if (m_hook) call = std::move(m_hook->call);
   m_hook.reset();
@@ -68,34 +68,34 @@ std::function<void()> PracticeBooks::takeHook() {
 }
 
 void PracticeBooks::connectionAccepted() {
-  const QMutexLocker lock(&m_mutex);
+  const std::lock_guard lock(m_mutex);
   ++m_connections;
 }
 
 void PracticeBooks::handshakeFailed(qint64 rawBytes) {
-  const QMutexLocker lock(&m_mutex);
+  const std::lock_guard lock(m_mutex);
   ++m_failedHandshakes;
   m_bytesBeforeFailure += rawBytes;
 }
 
 void PracticeBooks::heldChanged(int by) {
-  const QMutexLocker lock(&m_mutex);
+  const std::lock_guard lock(m_mutex);
   m_held += by;
-  m_changed.wakeAll();
+  m_changed.notify_all();
 }
 
 bool PracticeBooks::holding() const {
-  const QMutexLocker lock(&m_mutex);
+  const std::lock_guard lock(m_mutex);
   return m_holding;
 }
 
 QList<PracticeReceipt> PracticeBooks::receipts() const {
-  const QMutexLocker lock(&m_mutex);
+  const std::lock_guard lock(m_mutex);
   return m_receipts;
 }
 
 QList<PracticeRequest> PracticeBooks::requests() const {
-  const QMutexLocker lock(&m_mutex);
+  const std::lock_guard lock(m_mutex);
   QList<PracticeRequest> list;
   for (const auto& [id, request] : m_requests) list.append(request);
   return list;
@@ -103,11 +103,8 @@ QList<PracticeRequest> PracticeBooks::requests() const {
 
 template <typename Reached>
 bool PracticeBooks::waitUntil(int timeoutMs, const Reached& reached) const {
-  const QDeadlineTimer deadline(timeoutMs);
-  const QMutexLocker lock(&m_mutex);
-  while (!reached())
-    if (!m_changed.wait(&m_mutex, deadline)) return reached();
-  return true;
+  std::unique_lock lock(m_mutex);
+  return m_changed.wait_for(lock, std::chrono::milliseconds(timeoutMs), reached);
 }
 
 bool PracticeBooks::waitForReceipts(int count, int timeoutMs) const {
@@ -123,12 +120,12 @@ bool PracticeBooks::waitForHeld(int count, int timeoutMs) const {
 }
 
 void PracticeBooks::setObserver(std::function<void(const PracticeReceipt&)> observer) {
-  const QMutexLocker lock(&m_mutex);
+  const std::lock_guard lock(m_mutex);
   m_observer = std::move(observer);
 }
 
 void PracticeBooks::forget() {
-  const QMutexLocker lock(&m_mutex);
+  const std::lock_guard lock(m_mutex);
   m_requests.clear();
   m_receipts.clear();
   m_connections = m_failedHandshakes = 0;
@@ -136,37 +133,37 @@ void PracticeBooks::forget() {
 }
 
 int PracticeBooks::connections() const {
-  const QMutexLocker lock(&m_mutex);
+  const std::lock_guard lock(m_mutex);
   return m_connections;
 }
 
 int PracticeBooks::failedHandshakes() const {
-  const QMutexLocker lock(&m_mutex);
+  const std::lock_guard lock(m_mutex);
   return m_failedHandshakes;
 }
 
 qint64 PracticeBooks::bytesBeforeFailedHandshakes() const {
-  const QMutexLocker lock(&m_mutex);
+  const std::lock_guard lock(m_mutex);
   return m_bytesBeforeFailure;
 }
 
 void PracticeBooks::misbehave(const Misbehaviour& misbehaviour) {
-  const QMutexLocker lock(&m_mutex);
+  const std::lock_guard lock(m_mutex);
   m_misbehaviours.append(misbehaviour);
 }
 
 void PracticeBooks::behave() {
-  const QMutexLocker lock(&m_mutex);
+  const std::lock_guard lock(m_mutex);
   m_misbehaviours.clear();
   m_hook.reset();
 }
 
 void PracticeBooks::setHook(Hook hook) {
-  const QMutexLocker lock(&m_mutex);
+  const std::lock_guard lock(m_mutex);
   m_hook = std::move(hook);
 }
 
 void PracticeBooks::setHolding(bool holding) {
-  const QMutexLocker lock(&m_mutex);
+  const std::lock_guard lock(m_mutex);
   m_holding = holding;
 }

@@ -2,11 +2,10 @@
 // What the practice service's thread and its callers share: what was received, what shall go wrong, the counts.
 // Guarded inside; any thread.
 
-#include <QMutex>
-#include <QWaitCondition>
-#include <atomic>
+#include <condition_variable>
 #include <functional>
 #include <map>
+#include <mutex>
 #include <optional>
 
 #include "practice/PracticeService.h"
@@ -59,8 +58,8 @@ class PracticeBooks {
   template <typename Reached>
   bool waitUntil(int timeoutMs, const Reached& reached) const;
 
-  mutable QMutex m_mutex;  // guards all below
-  mutable QWaitCondition m_changed;
+  mutable std::mutex m_mutex;  // guards all below
+  mutable std::condition_variable m_changed;
   quint64 m_lastId = 0;
   std::map<quint64, PracticeRequest> m_requests;
   QList<PracticeReceipt> m_receipts;

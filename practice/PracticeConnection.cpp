@@ -131,6 +131,7 @@ void PracticeConnection::requestComplete() {
     return deliver(PracticeReply::xml(500, PracticeReply::faultEnvelope(request.fault.toUtf8())));
 
   const QByteArray answer = judge(request);
+  m_incoming.reset();
   m_context.books.changeRequest(m_id, [&](PracticeRequest& record) { record.answer = answer; });
   const QByteArray envelope = PracticeReply::envelope(request.method, answer);
   m_reply = m_misbehaviour ? PracticeReply::reshaped(*m_misbehaviour, envelope) : PracticeReply::xml(200, envelope);

@@ -2,6 +2,7 @@
 // The listening side of the practice service: TLS on one address, a PracticeConnection for each client. Owned and used
 // by the service's thread.
 
+#include <QHash>
 #include <QSslServer>
 
 #include "practice/PracticeConnection.h"
@@ -20,9 +21,11 @@ class PracticeListener : public QSslServer {
   void incomingConnection(qintptr descriptor) override;
 
  private:
+  class RawCount;
   void socketFailed(QSslSocket* socket);
   void takeConnections();
   void neverSpeakTls(qintptr descriptor, bool cutAtFirstBytes);
 
   PracticeContext& m_context;
+  QHash<QSslSocket*, RawCount*> m_counts;  // of handshakes under way; owned by their sockets
 };

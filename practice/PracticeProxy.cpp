@@ -1,19 +1,20 @@
 #include "practice/PracticeProxy.h"
 
-#include <QMutex>
 #include <QTcpServer>
+#include <mutex>
+#include <utility>
 
 #include "practice/ProxyConnection.h"
 #include "practice/ServiceThread.h"
 
 class PracticeProxy::Private {
  public:
-  mutable QMutex mutex;  // guards the three below
+  mutable std::mutex mutex;  // guards the three below
   Behaviour behaviour;
   QList<QByteArray> heads;
   int tunnels = 0;
 
-  ServiceThread thread;
+  ServiceThread thread{"practice-proxy"};
   QTcpServer* server = nullptr;  // lives in the thread and owns the connections
   quint16 port = 0;
 
@@ -21,11 +22,11 @@ class PracticeProxy::Private {
     while (QTcpSocket* client = server->nextPendingConnection())
       new ProxyConnection(client, currentBehaviour(),
                           {[this](const QByteArray& head) {
-                             const QMutexLocker lock(&mutex);
+                             const std::lock_guard lock(mutex);
                              heads.append(head);
                            },
                            [this] {
-                             const QMutexLocker lock(&mutex);
+                             const std::lock_guard lock(mutex);
                              ++tunnels;
                            }},
                           server);
@@ -33,57 +34,45 @@ class PracticeProxy::Private {
 
  private:
   Behaviour currentBehaviour() const {
-    const QMutexLocker lock(&mutex);
+    const std::lock_guard lock(mutex);
     return behaviour;
   }
 };
 
-PracticeProxy::PracticeProxy() : d(std::make_unique<Private>()) {
-  d->thread.setObjectName(QStringLiteral("practice-proxy"));
-}
+PracticeProxy::PracticeProxy() : d(std::make_unique<Private>()) {}
 
 PracticeProxy::~PracticeProxy() { stop(); }
 
 bool PracticeProxy::start() {
   stop();
-  d->server = new QTcpServer;
-  QObject::connect(d->server, &QTcpServer::newConnection, d->server, [this] { d->takeConnections(); });
-  d->server->moveToThread(&d->thread);
-  d->thread.start();
   bool listening = false;
-  QMetaObject::invokeMethod(
-      d->server,
+  d->thread.start(
       [&] {
+        d->server = new QTcpServer;
+        QObject::connect(d->server, &QTcpServer::newConnection, d->server, [this] { d->takeConnections(); });
         listening = d->server->listen(QHostAddress::LocalHost);
         d->port = d->server->serverPort();
       },
-      Qt::BlockingQueuedConnection);
+      [this] { delete std::exchange(d->server, nullptr); });
   if (!listening) stop();
   return listening;
 }
 
-void PracticeProxy::stop() {
-  if (!d->server) return;
-  QMetaObject::invokeMethod(
-      d->server, [this] { delete d->server; }, Qt::BlockingQueuedConnection);
-  d->server = nullptr;
-  d->thread.quit();
-  d->thread.wait();
-}
+void PracticeProxy::stop() { d->thread.stop(); }
 
 quint16 PracticeProxy::port() const { return d->port; }
 
 void PracticeProxy::setBehaviour(const Behaviour& behaviour) {
-  const QMutexLocker lock(&d->mutex);
+  const std::lock_guard lock(d->mutex);
   d->behaviour = behaviour;
 }
 
 QList<QByteArray> PracticeProxy::heads() const {
-  const QMutexLocker lock(&d->mutex);
+  const std::lock_guard lock(d->mutex);
   return d->heads;
 }
 
 int PracticeProxy::tunnels() const {
-  const QMutexLocker lock(&d->mutex);
+  const std::lock_guard lock(d->mutex);
   return d->tunnels;
 }

@@ -22,7 +22,7 @@ class PracticeProxy {
     };
     Kind kind = Kind::Tunnel;
     int status = 407;
-    QByteArray text;
+    QByteArray text = {};
     int pieceBytes = 0;  ///< sends the head of its reply in pieces of so many bytes; 0: at once
   };
 

@@ -8,6 +8,7 @@
 #include <QSslKey>
 #include <QTcpServer>
 #include <QTemporaryDir>
+#include <utility>
 
 #include "practice/Catalogue.h"
 #include "practice/PracticeListener.h"
@@ -18,7 +19,7 @@ using namespace Qt::Literals::StringLiterals;
 class PracticeService::Private {
  public:
   PracticeContext context;
-  ServiceThread thread;
+  ServiceThread thread{"practice"};
   QObject* worker = nullptr;  // lives in the thread and owns the listeners
   std::unique_ptr<QTemporaryDir> temporary;
   QString caFile, error;
@@ -91,7 +92,6 @@ PracticeService::PracticeService() : PracticeService(Options()) {}
 PracticeService::PracticeService(const Options& options) : d(std::make_unique<Private>()) {
   d->context.options = options;
   d->context.passwordHash = QCryptographicHash::hash(options.password.toUtf8(), QCryptographicHash::Sha256).toHex();
-  d->thread.setObjectName(u"practice"_s);
 }
 
 PracticeService::~PracticeService() { stop(); }
@@ -101,24 +101,18 @@ bool PracticeService::start(quint16 port) {
   const auto tls = d->configuration();
   if (!tls) return false;
   d->context.store = std::make_unique<PracticeStore>(d->context.options.storeFolder);
-  d->worker = new QObject;
-  d->worker->moveToThread(&d->thread);
-  d->thread.start();
   bool listening = false;
-  QMetaObject::invokeMethod(
-      d->worker, [&] { listening = d->listen(*tls, port); }, Qt::BlockingQueuedConnection);
+  d->thread.start(
+      [&] {
+        d->worker = new QObject;
+        listening = d->listen(*tls, port);
+      },
+      [this] { delete std::exchange(d->worker, nullptr); });
   if (!listening) stop();
   return listening;
 }
 
-void PracticeService::stop() {
-  if (!d->worker) return;
-  QMetaObject::invokeMethod(
-      d->worker, [this] { delete d->worker; }, Qt::BlockingQueuedConnection);
-  d->worker = nullptr;
-  d->thread.quit();
-  d->thread.wait();
-}
+void PracticeService::stop() { d->thread.stop(); }
 
 quint16 PracticeService::port() const { return d->port; }
 QString PracticeService::errorString() const { return d->error; }
@@ -153,8 +147,7 @@ void PracticeService::hold() { d->context.books.setHolding(true); }
 
 void PracticeService::release() {
   d->context.books.setHolding(false);
-  if (!d->worker) return;
-  QMetaObject::invokeMethod(d->worker, [this] {
+  d->thread.call([this] {
     for (auto* listener : d->worker->findChildren<PracticeListener*>()) emit listener->released();
   });
 }

@@ -3,7 +3,6 @@
 #include <unistd.h>
 
 #include <QApplication>
-#include <QIcon>
 #include <QMessageBox>
 #include <QSessionManager>
 #include <QTimer>
@@ -20,6 +19,7 @@
 #include "text/VTULocalization.h"
 #include "version.h"
 #include "widgets/BackgroundCall.h"
+#include "widgets/Pictures.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -34,7 +34,7 @@ int main(int argc, char** argv) {
   QApplication::setApplicationDisplayName(QString::fromLatin1(AppDisplayName));
   QApplication::setApplicationVersion(u"%1.%2.%3"_s.arg(MajorVersion).arg(MinorVersion).arg(BugVersion));
   QApplication::setDesktopFileName(QString::fromLatin1(AppId));
-  QApplication::setWindowIcon(QIcon(u":/pictures/vantry-uploader.svg"_s));
+  QApplication::setWindowIcon(Pictures::programIcon());
   QApplication::setQuitOnLastWindowClosed(false);  // the main window quits by itself; a message box must not
 
   const FolderItem dataFolder = SpecialFolder::ApplicationData();

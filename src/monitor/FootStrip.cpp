@@ -11,7 +11,7 @@
 using namespace Qt::Literals::StringLiterals;
 
 /// The lower, the sooner a person must know.
-enum class Rank { NothingIsSent, SomethingAtStake, OneTaskHindered, ToKnow, NoLogin };
+enum class Rank { NothingIsSent, SomethingAtStake, OneTaskHindered, ToKnow, NoLogin, WaitsForLogin };
 
 static Rank rankOf(Problem::Kind kind) {
   switch (kind) {
@@ -47,9 +47,13 @@ static QStringList wrongs(const StripInput& input) {
   };
   QList<Wrong> found;
   QStringList toldTasks;
+  const bool noLogin = std::any_of(input.problems.begin(), input.problems.end(),
+                                   [](const Problem& problem) { return problem.kind == Problem::Kind::NoLogin; });
   for (const Problem& problem : input.problems) {
     const Problem cleaned{problem.kind, onOneLine(problem.subject), onOneLine(problem.detail)};
-    found.append({rankOf(problem.kind), VTULocalization::problemText(cleaned)});
+    // Whoever has not entered a login yet doesn't miss the service.
+    const bool waits = noLogin && problem.kind == Problem::Kind::ServiceUnreachable;
+    found.append({waits ? Rank::WaitsForLogin : rankOf(problem.kind), VTULocalization::problemText(cleaned)});
     if (problem.kind == Problem::Kind::InputFolderUnreadable) toldTasks << problem.subject;
   }
   for (const QString& task : input.faultyTasks)

@@ -19,6 +19,7 @@ void VTUploaderMainWIndow::showEvent(QShowEvent* event) {
 }
 
 void VTUploaderMainWIndow::Event_Open() {
+  if (m_closed) return;
   if (VantryUtil::SoapUserName().trimmed().isEmpty() || VantryUtil::SoapPassword().trimmed().isEmpty()) {
     Problems::raise(Problem::Kind::NoLogin, {}, {});
     if (m_commands.showAdminWindow) m_commands.showAdminWindow();

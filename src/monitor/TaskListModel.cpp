@@ -109,6 +109,7 @@ QVariant TaskListModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
       return textOf(row, index.column());
     case Qt::ToolTipRole:
+      if (index.column() == FilesColumn) return {};
       return plainToolTip(status ? statusWords(row.look.state) : textOf(row, index.column()).toString());
     case Qt::AccessibleTextRole:
       return status ? statusWords(row.look.state) : textOf(row, index.column());

@@ -19,7 +19,8 @@ qint64 wallClockNs() {
 double secondsOf(qint64 nanoseconds) {
   // The whole seconds are exact in a double, so this rounds once; nanoseconds / 1e9 would round twice, and a stored
   // limit would not read back as the date it was made from.
-  return static_cast<double>(nanoseconds / kPerSecond) + static_cast<double>(nanoseconds % kPerSecond) / 1e9;
+  const qint64 whole = nanoseconds / kPerSecond;
+  return static_cast<double>(whole) + static_cast<double>(nanoseconds % kPerSecond) / 1e9;
 }
 
 Date::Date() : m_nanoseconds(wallClockNs()) {}

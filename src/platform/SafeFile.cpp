@@ -16,7 +16,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr size_t kPiece = 256 * 1024;
+constexpr size_t kPiece = size_t{256} * 1024;
 constexpr int kOpenToRead = O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
 
 template <typename Call>
@@ -139,7 +139,7 @@ std::optional<FolderItem> realTarget(const FolderItem& target, int& error) {
   const std::unique_ptr<char, decltype(&std::free)> path(::realpath(target.bytes().constData(), nullptr), &std::free);
   error = errno;
   if (!path) return std::nullopt;
-  const auto item = FolderItem::fromBytes(path.get());
+  auto item = FolderItem::fromBytes(path.get());
   if (item && versionOf(*item)) return item;
   error = item && item->Directory() ? EISDIR : EINVAL;
   return std::nullopt;

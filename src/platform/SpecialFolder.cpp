@@ -14,7 +14,7 @@ namespace {
 constexpr auto kOwnName = "vantry-uploader";
 
 QByteArray homePath() {
-  const QByteArray fromEnvironment = qgetenv("HOME");
+  QByteArray fromEnvironment = qgetenv("HOME");
   if (fromEnvironment.startsWith('/')) return fromEnvironment;
   std::vector<char> buffer(16384);
   passwd entry{};

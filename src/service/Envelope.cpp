@@ -53,7 +53,7 @@ QByteArray Envelope::fill(const QByteArray& pattern, std::initializer_list<Filli
     const QByteArrayView here = QByteArrayView(pattern).sliced(bracket);
     const auto* found = std::find_if(fillings.begin(), fillings.end(),
                                      [&](const Filling& filling) { return here.startsWith(filling.placeholder); });
-    result += found == fillings.end() ? QByteArrayLiteral("[") : found->value;
+    result += found == fillings.end() ? QByteArrayView("[") : found->value;
     position = bracket + (found == fillings.end() ? 1 : found->placeholder.size());
   }
   return result;

@@ -9,7 +9,7 @@ namespace Envelope {
 
 struct Filling {
   QByteArrayView placeholder;  ///< with its brackets
-  QByteArray value;
+  QByteArrayView value;        ///< of which the caller wipes what is secret
 };
 
 /// The template with every placeholder replaced, in one pass: a placeholder within a value stays as it is.

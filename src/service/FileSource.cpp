@@ -84,7 +84,7 @@ bool FileSource::read(QByteArray& buffer) {
   if (!m_begun) buffer += m_before;
   m_begun = true;
   if (m_read < m_version.size && !readPiece(buffer)) return false;
-  if (m_progress) m_progress(m_read, m_version.size);
+  if (m_progress && m_version.size > 0) m_progress(m_read, m_version.size);
   return m_read < m_version.size || finishContent(buffer);
 }
 

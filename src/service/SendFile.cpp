@@ -1,5 +1,6 @@
 #include <cerrno>
 
+#include "platform/FileCipher.h"
 #include "service/Credentials.h"
 #include "service/Envelope.h"
 #include "service/FileSource.h"
@@ -14,15 +15,19 @@ static void setEnvelope(FileSource& source, const QString& filename, const QStri
   const QByteArray pattern = VantryUtil::sendFileTemplate();
   const QByteArray body = "[FILEBODY]";
   const qsizetype cut = pattern.indexOf(body);
+  const QByteArray loginField = Envelope::escaped(storedPreference(u"SoapLogin"_s));
+  const QByteArray nameField = Envelope::escaped(filename), workflowField = Envelope::escaped(workflowName);
+  QByteArray passwordField = Envelope::passwordField(storedPreference(u"SoapPassword"_s));
   const auto fill = [&](const QByteArray& part) {
-    return Envelope::fill(part, {{"[login]", Envelope::escaped(storedPreference(u"SoapLogin"_s))},
+    return Envelope::fill(part, {{"[login]", loginField},
                                  {"[Trackname]", instrumentJob ? "ITWorkflowName" : "Trackname"},
-                                 {"[password]", Envelope::passwordField(storedPreference(u"SoapPassword"_s))},
-                                 {"[FILENAME]", Envelope::escaped(filename)},
-                                 {"[TRACKWORKFLOWNAME]", Envelope::escaped(workflowName)},
+                                 {"[password]", passwordField},
+                                 {"[FILENAME]", nameField},
+                                 {"[TRACKWORKFLOWNAME]", workflowField},
                                  {"[SendFile]", instrumentJob ? "SendIWFile" : "SendFile"}});
   };
   source.setEnvelope(fill(pattern.left(cut)), fill(pattern.mid(cut + body.size())));
+  wipe(passwordField);
 }
 
 /// What the source met with the file, as the failure of the exchange.

@@ -1,3 +1,4 @@
+#include "platform/FileCipher.h"
 #include "service/Credentials.h"
 #include "service/Envelope.h"
 #include "service/SoapReply.h"
@@ -11,10 +12,13 @@ std::optional<Dictionary> VantryUtil::VTSoap(const QString& method, QString& err
   ConfigureProxy(socket);
   const QString loginInForce = login.isEmpty() ? storedPreference(u"SoapLogin"_s) : login;
   const QString passwordInForce = password.isEmpty() ? storedPreference(u"SoapPassword"_s) : password;
-  socket.SetRequestContent(Envelope::fill(soapTemplate(), {{"[login]", Envelope::escaped(loginInForce)},
-                                                           {"[password]", Envelope::passwordField(passwordInForce)},
-                                                           {"[method]", method.toUtf8()}}),
-                           EnvelopeType);
+  const QByteArray loginField = Envelope::escaped(loginInForce), methodField = method.toUtf8();
+  QByteArray passwordField = Envelope::passwordField(passwordInForce);
+  socket.SetRequestContent(
+      Envelope::fill(soapTemplate(),
+                     {{"[login]", loginField}, {"[password]", passwordField}, {"[method]", methodField}}),
+      EnvelopeType);
+  wipe(passwordField);
   const QString url = method == "Get_API_URL"_L1 ? DefaultAPIEndpoint() : endpointInForce();
   const QByteArray page = socket.Post(url, ServiceTimeoutMs);
   if (failure) *failure = socket.failure();

@@ -30,7 +30,7 @@ void setAccountURL(const QString& url);
 /// How a file's exchange is to be watched, and what it found of the file.
 struct SendFileWatch {
   FileVersion version;                                      ///< the version to send; a file in any other is not sent
-  std::function<void(qint64 sent, qint64 total)> progress;  ///< file bytes; calling thread, at most every 64 KiB
+  std::function<void(qint64 sent, qint64 total)> progress;  ///< file bytes, after each 48 KiB of them; calling thread
   bool fileChanged = false;  ///< out: the file was not in that version, or moved while it was read; exchange broken off
   HttpFailure failure;       ///< out: how the exchange ended
 };

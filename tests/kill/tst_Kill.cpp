@@ -77,8 +77,8 @@ class tst_Kill : public QObject {
  private slots:
   void atEveryCall_data() {
     QTest::addColumn<QString>("call");
-    for (const char* call : {"write", "pwrite64", "sendto", "fsync", "fdatasync", "rename", "renameat2", "unlink", "unlinkat",
-                             "copy_file_range", "close", "openat", "mkdir", "utimensat", "fchmod", "ftruncate"})
+    for (const char* call : {"write", "pwrite64", "sendto", "fsync", "fdatasync", "rename", "renameat2", "unlink",
+                             "copy_file_range", "close", "openat", "mkdir", "utimensat"})
       QTest::newRow(call) << QString::fromLatin1(call);
   }
   void atEveryCall() {
@@ -117,7 +117,7 @@ class tst_Kill : public QObject {
       QVERIFY2(!bench.files(u"in-Deleting"_s).contains(u"a.txt"_s), at.constData());
       QCOMPARE(bench.files(u"in-Keeping"_s), (QStringList{u"b.txt"_s, u"c.txt"_s}));
     }
-    qInfo("%s: killed %d times", qPrintable(call), kills);
+    QVERIFY2(kills > 0, "this call is never made, so the row proves nothing");
   }
 };
 

@@ -71,6 +71,8 @@ class tst_FootStrip : public QObject {
     row("among equals the oldest comes first", with({upload, copy}), Tone::Wrong, words(upload), u"(and 1 more)"_s);
     row("no login comes after all else that is wrong", with({noLogin, setAside}), Tone::Wrong, words(setAside),
         u"(and 1 more)"_s);
+    row("without a login nobody misses the service", with({service, noLogin}), Tone::Wrong, words(noLogin),
+        u"(and 1 more)"_s);
     row("no login is told", with({noLogin}), Tone::Wrong, words(noLogin));
     StripInput fault = running();
     fault.faultyTasks = QStringList{u"D"_s};

@@ -66,8 +66,8 @@ class tst_RegEx : public QObject {
       QCOMPARE(expression.Search(name).outcome, Outcome::TooCostly);
       bestNs = std::min(bestNs, timer.nsecsElapsed());
     }
-    // Some twenty times the promise, for machines under load and sanitizers.
-    QVERIFY2(bestNs < 2'000'000, qPrintable(u"%1 ns"_s.arg(bestNs)));
+    // A hundred times the promise, for machines under load and sanitizers.
+    QVERIFY2(bestNs < 10'000'000, qPrintable(u"%1 ns"_s.arg(bestNs)));
   }
 
   void patternsThatActOnTheWholeSearchAreBoundedToo() {

@@ -35,6 +35,6 @@ class PracticeClient {
 };
 
 /// Sends a body to the service over a connection of its own and gives the whole reply.
-[[nodiscard]] QByteArray exchange(const class PracticeService& service, const QByteArray& body);
+QByteArray exchange(const class PracticeService& service, const QByteArray& body);
 /// The text of the first `return` of a reply; null if it has none or its body isn't XML.
 [[nodiscard]] QString returnOf(const QByteArray& reply);

@@ -58,5 +58,5 @@ void tst_Base64Decoder::refuses() {
   }
 }
 
-VANTRY_TEST(tst_Base64Decoder)
+VANTRY_TEST(tst_Base64Decoder);
 #include "tst_Base64Decoder.moc"

@@ -134,5 +134,5 @@ void tst_Deliveries::findsTheWindowOnTheScreen() {
   QCOMPARE(occupiedPart(screen), QRect(QPoint(5, 3), QPoint(20, 7)));
 }
 
-VANTRY_TEST(tst_Deliveries)
+VANTRY_TEST(tst_Deliveries);
 #include "tst_Deliveries.moc"

@@ -100,5 +100,5 @@ void tst_EnvelopeReader::findsFault() {
   QVERIFY(read(body, 1000).fault.contains(words));
 }
 
-VANTRY_TEST(tst_EnvelopeReader)
+VANTRY_TEST(tst_EnvelopeReader);
 #include "tst_EnvelopeReader.moc"

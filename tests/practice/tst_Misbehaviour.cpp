@@ -229,6 +229,5 @@ void tst_Misbehaviour::befallsOnlyWhatItIsMeantFor() {
   QVERIFY(answer(PracticeClient::call("TrackList")).startsWith(u'['));
 }
 
-Q_DECLARE_METATYPE(Misbehaviour)
-VANTRY_TEST(tst_Misbehaviour)
+VANTRY_TEST(tst_Misbehaviour);
 #include "tst_Misbehaviour.moc"

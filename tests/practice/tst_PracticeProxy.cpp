@@ -110,6 +110,5 @@ void tst_PracticeProxy::doesNotTunnel() {
   QCOMPARE(proxy.tunnels(), 0);
 }
 
-Q_DECLARE_METATYPE(PracticeProxy::Behaviour)
-VANTRY_TEST(tst_PracticeProxy)
+VANTRY_TEST(tst_PracticeProxy);
 #include "tst_PracticeProxy.moc"

@@ -258,5 +258,5 @@ void tst_PracticeService::takesManyAtOnce() {
   }
 }
 
-VANTRY_TEST(tst_PracticeService)
+VANTRY_TEST(tst_PracticeService);
 #include "tst_PracticeService.moc"

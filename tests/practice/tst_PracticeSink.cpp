@@ -67,5 +67,5 @@ void tst_PracticeSink::endsWithClientsInMidRequest() {
   QCOMPARE(sink.requests(), 0);
 }
 
-VANTRY_TEST(tst_PracticeSink)
+VANTRY_TEST(tst_PracticeSink);
 #include "tst_PracticeSink.moc"

@@ -79,5 +79,5 @@ void tst_Samples::coverTheAwkwardCases() {
   for (const QString& mark : {u" "_s, u"ü"_s, u"&"_s}) QVERIFY2(!names.filter(mark).isEmpty(), qPrintable(mark));
 }
 
-VANTRY_TEST(tst_Samples)
+VANTRY_TEST(tst_Samples);
 #include "tst_Samples.moc"

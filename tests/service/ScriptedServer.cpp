@@ -8,6 +8,8 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+static constexpr qsizetype MaxReceived = 1 << 20;
+
 static sockaddr_in loopback(int port) {
   sockaddr_in address{};
   address.sin_family = AF_INET;
@@ -105,7 +107,7 @@ bool ScriptedServer::Peer::readMore() {
   if (count <= 0) return false;
   m_buffer.append(piece, count);
   const std::lock_guard lock(m_server.m_mutex);
-  m_server.m_received.append(piece, count);
+  if (m_server.m_received.size() < MaxReceived) m_server.m_received.append(piece, count);
   return true;
 }
 

@@ -19,6 +19,7 @@ class ScriptedServer {
     bool wait(int milliseconds);  ///< false if the server is being taken down
     void reset();                 ///< ends the connection with a reset
     void pipeTo(int port);        ///< carries bytes both ways between it and a port on 127.0.0.1, to the end
+    [[nodiscard]] int descriptor() const { return m_socket; }
 
    private:
     friend class ScriptedServer;
@@ -39,7 +40,7 @@ class ScriptedServer {
 
   [[nodiscard]] int port() const { return m_port; }
   [[nodiscard]] QString url(const QString& path = {}) const;
-  [[nodiscard]] QByteArray received() const;  ///< all bytes that scripts have read, of all connections
+  [[nodiscard]] QByteArray received() const;  ///< what scripts have read, the first megabyte of it
   /// A script that takes a request without content, answers and closes.
   static Script answer(const QByteArray& reply);
 

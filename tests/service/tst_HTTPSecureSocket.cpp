@@ -1,5 +1,9 @@
+#include <openssl/pem.h>
+#include <openssl/ssl.h>
+
+#include <QTemporaryFile>
 #include <QTest>
-#include <algorithm>
+#include <memory>
 
 #include "ScriptedServer.h"
 #include "practice/PracticeProxy.h"
@@ -24,6 +28,38 @@ static const QByteArray Call =
     "<?xml version=\"1.0\"?><e:Envelope xmlns:e=\"http://schemas.xmlsoap.org/soap/envelope/\"><e:Header><Authenticate>"
     "<Username>nobody</Username><Password>secret-of-the-envelope</Password></Authenticate></e:Header><e:Body>"
     "<TrackList/></e:Body></e:Envelope>";
+
+namespace {
+/// The server's end of TLS on a connection, which it leaves without a goodbye.
+class TlsServerSide {
+ public:
+  TlsServerSide(const Certificates::ServerIdentity& identity, int socket)
+      : m_context(SSL_CTX_new(TLS_server_method()), SSL_CTX_free), m_ssl(nullptr, SSL_free) {
+    BIO* bio = BIO_new_mem_buf(identity.certificatePem.constData(), -1);
+    X509* certificate = PEM_read_bio_X509(bio, nullptr, nullptr, nullptr);
+    BIO_free(bio);
+    bio = BIO_new_mem_buf(identity.keyPem.constData(), -1);
+    EVP_PKEY* key = PEM_read_bio_PrivateKey(bio, nullptr, nullptr, nullptr);
+    BIO_free(bio);
+    SSL_CTX_use_certificate(m_context.get(), certificate);
+    SSL_CTX_use_PrivateKey(m_context.get(), key);
+    X509_free(certificate);
+    EVP_PKEY_free(key);
+    m_ssl.reset(SSL_new(m_context.get()));
+    SSL_set_fd(m_ssl.get(), socket);
+    SSL_accept(m_ssl.get());
+  }
+  void answer(const QByteArray& reply) const {
+    char request[4096];
+    SSL_read(m_ssl.get(), request, sizeof request);
+    SSL_write(m_ssl.get(), reply.constData(), static_cast<int>(reply.size()));
+  }
+
+ private:
+  std::unique_ptr<SSL_CTX, void (*)(SSL_CTX*)> m_context;
+  std::unique_ptr<SSL, void (*)(SSL*)> m_ssl;
+};
+}  // namespace
 
 class tst_HTTPSecureSocket : public QObject {
   Q_OBJECT
@@ -145,6 +181,21 @@ class tst_HTTPSecureSocket : public QObject {
     const QByteArray page = post(socket, service.url(), phase == Phase::TimedOut ? Short : Long);
     QVERIFY2(socket.failure().phase == phase, qPrintable(socket.failure().detail));
     QCOMPARE(page.contains("E009"), phase == Phase::None);
+  }
+
+  void anEndWithoutGoodbyeIsNoEndOfAReply() {
+    const Certificates::Authority authority(u"test"_s);
+    const Certificates::ServerIdentity identity = authority.issue();
+    QTemporaryFile ca;
+    QVERIFY(ca.open() && ca.write(authority.certificatePem()) > 0 && ca.flush());
+    VantryUtil::setExtraCaFile(ca.fileName());
+    ScriptedServer server([&](ScriptedServer::Peer& peer) {
+      const TlsServerSide tls(identity, peer.descriptor());
+      tls.answer("HTTP/1.0 200 OK\r\n\r\n<return>all of it?");
+    });
+    HTTPSecureSocket socket;
+    QCOMPARE(post(socket, u"https://localhost:%1/"_s.arg(server.port()), Long), QByteArray("<return>all of it?"));
+    QCOMPARE(socket.failure().phase, Phase::Reply);
   }
 
   void anEarlyAnswerIsReadThoughTheServerThenDropsTheConnection() {

@@ -201,12 +201,20 @@ class tst_HTTPSocket : public QObject {
     QCOMPARE(socket.failure().phase, Phase::TimedOut);
   }
 
-  void sendingIsNoSignOfLife() {
-    ScriptedServer server([](Peer& peer) {
+  void sendingIsNoSignOfLife_data() {
+    QTest::addColumn<ScriptedServer::Script>("script");
+    QTest::newRow("the server reads slowly") << ScriptedServer::Script([](Peer& peer) {
       while (peer.wait(Short / 8) && !peer.readCount(100'000).isEmpty()) continue;
     });
+    QTest::newRow("the server reads without a pause")
+        << ScriptedServer::Script([](Peer& peer) { peer.holdUntilItLeaves(); });
+  }
+  void sendingIsNoSignOfLife() {
+    QFETCH(ScriptedServer::Script, script);
+    ScriptedServer server(script);
     HTTPSocket socket;
-    socket.SetRequestContent(QByteArray(64 << 20, 'x'), "text/plain");
+    constexpr int EndlessPieces = 1'000'000'000;
+    socket.SetRequestSource(std::make_unique<PiecewiseSource>(EndlessPieces, 1000LL * EndlessPieces, -1), "text/plain");
     QElapsedTimer timer;
     timer.start();
     (void)socket.Post(server.url(), Short);

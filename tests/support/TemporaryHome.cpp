@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <chrono>
 #include <cmath>
+#include <filesystem>
 
 static void restore(const char* name, const QByteArray& value) {
   if (value.isNull()) qunsetenv(name);
@@ -34,6 +35,9 @@ TemporaryHome::~TemporaryHome() {
   restore("XDG_DATA_HOME", m_oldData);
   restore("XDG_CONFIG_HOME", m_oldConfig);
   restore("XDG_RUNTIME_DIR", m_oldRuntime);
+  // Qt's own removal, which follows, can't reach names that are not UTF-8.
+  std::error_code ignored;
+  std::filesystem::remove_all(QFile::encodeName(m_dir.path()).constData(), ignored);
 }
 
 QString TemporaryHome::path(const QString& relative) const {

@@ -1,0 +1,107 @@
+// How the program comes up: in order, without a network, and by itself once the network is there.
+
+#include <QTest>
+#include <QUrl>
+
+#include "engine/StartUp.h"
+#include "engine/UploadThread.h"
+#include "platform/Problems.h"
+#include "service/VTInstrumentTrack.h"
+#include "service/VTTrack.h"
+#include "service/VantryUtil.h"
+#include "support/EngineBench.h"
+#include "support/TestRunner.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+static bool unreachable() {
+  for (const Problem& problem : Problems::present())
+    if (problem.kind == Problem::Kind::ServiceUnreachable) return true;
+  return false;
+}
+
+class tst_StartUp : public QObject {
+  Q_OBJECT
+
+  /// The service where this build looks for it.
+  static quint16 defaultPort() { return static_cast<quint16>(QUrl(VantryUtil::DefaultAPIEndpoint()).port(443)); }
+
+ private slots:
+  void cleanup() {
+    StartUp::stop(5000);
+    VantryUtil::allowServiceCalls();
+  }
+
+  void withoutANetworkTheTasksRunAndTheRestComesByItself() {
+    EngineBench bench;
+    VantryUtil::setAccountURL({});
+    UploadThread::Enabled = false;
+    QVERIFY(bench.makeTask()->save(UploaderTask::TaskDirectory().Child(u"a.vnt"_s)));
+    PracticeService late;
+    QVERIFY2(late.start(defaultPort()), qPrintable(late.errorString()));
+    late.stop();
+    VantryUtil::setExtraCaFile(late.caFile());
+
+    std::atomic<int> loaded{0};
+    StartUp::begin({.tasksLoaded = [&] { ++loaded; }, .failed = {}});
+    QTRY_COMPARE_WITH_TIMEOUT(loaded.load(), 1, 10'000);
+    QVERIFY(UploadThread::Enabled);
+    QCOMPARE(UploaderTask::allTasks().size(), 1);
+    QVERIFY(unreachable());
+    QVERIFY(VantryUtil::AccountURL().isEmpty());
+
+    QVERIFY2(late.start(defaultPort()), qPrintable(late.errorString()));
+    QTRY_VERIFY_WITH_TIMEOUT(VTInstrumentTrack::everFetched() && VTTrack::everFetched(), 30'000);
+    QCOMPARE(VantryUtil::AccountURL(), late.url());
+    QVERIFY(!VTTrack::ListDevices().isEmpty());
+    QTRY_VERIFY(!unreachable());
+    QCOMPARE(loaded.load(), 1);
+  }
+
+  void theEndpointComesFirstAndTheTasksLast() {
+    EngineBench bench;
+    VantryUtil::setAccountURL({});
+    UploadThread::Enabled = false;
+    PracticeService service;
+    QVERIFY2(service.start(defaultPort()), qPrintable(service.errorString()));
+    VantryUtil::setExtraCaFile(service.caFile());
+    service.misbehave({.kind = Misbehaviour::Kind::ErrorCode, .text = "E003", .method = "TrackList"});
+    std::atomic<int> requestsAtLoad{-1};
+    StartUp::begin({.tasksLoaded = [&] { requestsAtLoad = static_cast<int>(service.requests().size()); }, .failed = {}});
+    QTRY_COMPARE_WITH_TIMEOUT(requestsAtLoad.load(), 3, 10'000);
+    QByteArrayList methods;
+    for (const PracticeRequest& request : service.requests()) methods << request.method;
+    QCOMPARE(methods, (QByteArrayList{"Get_API_URL", "TrackList", "InstrumentTargetList"}));
+    QVERIFY(UploadThread::Enabled);
+  }
+
+  void anExceptionIsHandedOut() {
+    EngineBench bench;
+    QString reason;
+    std::atomic<bool> failed{false};
+    StartUp::begin({.tasksLoaded = [] { throw std::runtime_error("planted"); },
+                    .failed = [&](const QString& why) {
+                      reason = why;
+                      failed = true;
+                    }});
+    QTRY_VERIFY_WITH_TIMEOUT(failed, 70'000);
+    QCOMPARE(reason, u"planted"_s);
+  }
+
+  void aCallThatIsNeverAnsweredDoesNotHoldTheEndUp() {
+    EngineBench bench;
+    PracticeService service;
+    QVERIFY2(service.start(defaultPort()), qPrintable(service.errorString()));
+    VantryUtil::setExtraCaFile(service.caFile());
+    service.misbehave({.kind = Misbehaviour::Kind::NoReply});
+    StartUp::begin({});
+    QVERIFY(service.waitForRequests(1, 10'000));
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(StartUp::stop(3000));
+    QVERIFY(timer.elapsed() < 1500);
+  }
+};
+
+VANTRY_TEST(tst_StartUp);
+#include "tst_StartUp.moc"
