@@ -70,8 +70,8 @@ static QString problemWith(const Delivery& delivery, const PracticeReceipt& rece
   return hashOf(*copy) == delivery.sha256 ? QString() : u"the copy differs"_s;
 }
 
-Verdict judge(const Delivery& delivery, const QList<PracticeReceipt>& receipts) {
-  Verdict verdict;
+DeliveryVerdict judge(const Delivery& delivery, const QList<PracticeReceipt>& receipts) {
+  DeliveryVerdict verdict;
   int arrived = 0;
   for (const PracticeReceipt& receipt : receipts) {
     if (receipt.sha256 != delivery.sha256) continue;
@@ -84,7 +84,7 @@ Verdict judge(const Delivery& delivery, const QList<PracticeReceipt>& receipts) 
   return verdict;
 }
 
-QString tableOf(const QList<Delivery>& deliveries, const QList<Verdict>& verdicts) {
+QString tableOf(const QList<Delivery>& deliveries, const QList<DeliveryVerdict>& verdicts) {
   QList<QStringList> rows{{u"file"_s, u"destination"_s, u"bytes"_s, u"sent as"_s, u"result"_s}};
   for (qsizetype i = 0; i < deliveries.size(); ++i)
     rows.append({deliveries[i].name, deliveries[i].task.destination, QString::number(deliveries[i].content.size()),

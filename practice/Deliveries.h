@@ -21,13 +21,13 @@ struct Delivery {
 /// that hold the task's file name pattern to that task, the rest to the task for everything.
 [[nodiscard]] QList<Delivery> assignSamples(const QString& samplesFolder, const QList<PracticeTask>& tasks);
 
-struct Verdict {
+struct DeliveryVerdict {
   QString sentAs;   ///< the name at the service; empty if nothing arrived
   QString problem;  ///< empty when all is right
 };
 /// Judges one delivery by content, kind, destination and name, exactly one receipt, input left in place, and a whole
 /// copy under the sent name.
-[[nodiscard]] Verdict judge(const Delivery& delivery, const QList<PracticeReceipt>& receipts);
+[[nodiscard]] DeliveryVerdict judge(const Delivery& delivery, const QList<PracticeReceipt>& receipts);
 
 /// Name, destination, size, sent as and result, in columns.
-[[nodiscard]] QString tableOf(const QList<Delivery>& deliveries, const QList<Verdict>& verdicts);
+[[nodiscard]] QString tableOf(const QList<Delivery>& deliveries, const QList<DeliveryVerdict>& verdicts);

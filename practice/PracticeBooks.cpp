@@ -91,7 +91,8 @@ bool PracticeBooks::holding() const {
 
 QList<PracticeReceipt> PracticeBooks::receipts() const {
   const std::lock_guard lock(m_mutex);
-  return m_receipts;
+  // A list of the caller's own: a shared one would be read while the next receipt is added to it.
+  return {m_receipts.cbegin(), m_receipts.cend()};
 }
 
 QList<PracticeRequest> PracticeBooks::requests() const {

@@ -11,6 +11,7 @@
 #include <memory>
 
 PracticeListener::PracticeListener(PracticeContext& context, QObject* parent) : QSslServer(parent), m_context(context) {
+  setHandshakeTimeout(60'000);  // a loaded machine may take long over one, and nobody attacks this service
   connect(this, &QSslServer::errorOccurred, this, &PracticeListener::socketFailed);
   connect(this, &QTcpServer::pendingConnectionAvailable, this, &PracticeListener::takeConnections);
 }

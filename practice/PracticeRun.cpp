@@ -127,7 +127,7 @@ void PracticeRun::look() {
 
 bool PracticeRun::judgeAll() {
   m_judged = true;
-  QList<Verdict> verdicts;
+  QList<DeliveryVerdict> verdicts;
   bool right = true;
   for (const Delivery& delivery : std::as_const(m_deliveries)) {
     verdicts.append(judge(delivery, m_service->receipts()));

@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <chrono>
 #include <condition_variable>
+#include <deque>
 #include <exception>
 #include <system_error>
 #include <thread>
@@ -31,6 +32,36 @@ void count(int difference) {
   const std::lock_guard lock(alive().mutex);
   alive().threads += difference;
   alive().ended.notify_all();
+}
+
+// Answers on their way to the main thread. They pass through a guard of ours, not inside Qt's event.
+struct Answers {
+  std::mutex mutex;  // guards waiting
+  std::deque<std::function<void()>> waiting;
+};
+
+Answers& answers() {
+  static auto* const instance = new Answers;
+  return *instance;
+}
+
+void handOverNext() {
+  std::function<void()> answer;
+  {
+    const std::lock_guard lock(answers().mutex);
+    if (answers().waiting.empty()) return;
+    answer = std::move(answers().waiting.front());
+    answers().waiting.pop_front();
+  }
+  answer();
+}
+
+void handOver(std::function<void()> answer) {
+  {
+    const std::lock_guard lock(answers().mutex);
+    answers().waiting.push_back(std::move(answer));
+  }
+  QMetaObject::invokeMethod(qApp, [] { handOverNext(); }, Qt::QueuedConnection);
 }
 
 }  // namespace
@@ -64,12 +95,9 @@ void BackgroundCall::begin(int limitMs, std::function<void(const Cancelled&)> wo
     work = {};
     --*threads;
     if (!job->cancelled)
-      QMetaObject::invokeMethod(
-          qApp,
-          [owner, job] {
-            if (owner) owner->ended(job);
-          },
-          Qt::QueuedConnection);
+      handOver([owner, job] {
+        if (owner) owner->ended(job);
+      });
     count(-1);
   };
   m_limit.stop();

@@ -189,8 +189,11 @@ class tst_Pipeline : public QObject {
     QVERIFY(bench.log().isEmpty());
     QCOMPARE(task->UploadedCount.load(), 0);
 
-    bench.clock.advance(10);
-    EngineBench::process(*task);
+    // The look behind the break may have met the file between its new size and its new date: that is one wait more.
+    for (int pass = 0; pass < 3; ++pass) {
+      bench.clock.advance(10);
+      EngineBench::process(*task);
+    }
     QCOMPARE(bench.received(), QStringList{u"big.txt"_s});
     QVERIFY(bench.service.receipts().first().content.isEmpty() ||
             bench.service.receipts().first().content == TemporaryHome::readFile(path));
