@@ -91,13 +91,12 @@ bool HttpExchange::connectToPeer() {
   const int port = usesProxy() ? m_request.proxyPort : m_url.port;
   NameMemory& memory = NameMemory::process();
   const auto now = std::chrono::steady_clock::now();
-  NameLookupResult names{memory.recall(host, port, now), {}};
-  if (names.addresses.empty()) {
-    names = lookUpName(host, port, m_peer, m_deadline);
-    if (!names.failure.failed()) memory.remember(host, port, names.addresses, now);
-  }
+  const auto remembered = memory.recall(host, port, now);
+  if (!remembered.empty() && !m_connection.open(remembered, m_peer, m_deadline).failed()) return true;
+  memory.forget(host, port);  // the name may have moved, so it is asked for anew before the exchange fails
+  NameLookupResult names = lookUpName(host, port, m_peer, m_deadline);
   if (!names.failure.failed()) names.failure = m_connection.open(names.addresses, m_peer, m_deadline);
-  if (names.failure.failed()) memory.forget(host, port);
+  if (!names.failure.failed()) memory.remember(host, port, names.addresses, now);
   return take(names.failure);
 }
 
