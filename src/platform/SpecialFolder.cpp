@@ -24,7 +24,7 @@ QByteArray homePath() {
   return "/";
 }
 
-// The specification has relative paths ignored.
+// The XDG rules have relative paths ignored.
 FolderItem ownFolder(const char* variable, const char* fallbackInHome) {
   QByteArray base = qgetenv(variable);
   if (!base.startsWith('/')) base = homePath() + '/' + fallbackInHome;
