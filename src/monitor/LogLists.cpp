@@ -81,7 +81,11 @@ QList<qint64> LogListView::selectedIds(qsizetype most) const {
 }
 
 int LogListView::ScrollPosition() const { return verticalScrollBar()->value(); }
-void LogListView::setScrollPosition(int row) { verticalScrollBar()->setValue(row); }
+
+void LogListView::setScrollPosition(int row) {
+  doItemsLayout();  // rows that came in during this event are not in the bar's range yet
+  verticalScrollBar()->setValue(row);
+}
 
 void LogListView::setNote(const QString& note) {
   m_note->setText(note);
