@@ -12,6 +12,7 @@ void benchPipeline(Lab& lab, Table& table);
 void benchFolder(Lab& lab, Table& table);
 void benchFolderEndings(Lab& lab, Table& table);
 void benchLog(Lab& lab, Table& table);
+void benchLogViewer(Lab& lab, Table& table);
 void benchIdle(Lab& lab, Table& table);
 void benchBase64(Lab& lab, Table& table);
 void benchGrowth(Lab& lab, Table& table);

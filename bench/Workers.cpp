@@ -12,6 +12,7 @@
 #include <iostream>
 
 #include "Agent.h"
+#include "LogViewWorker.h"
 #include "practice/PracticeSink.h"
 #include "storage/LogDatabase.h"
 
@@ -163,9 +164,10 @@ struct Worker {
   void (*run)(const Command& arguments);
 };
 
-constexpr std::array workers{Worker{"send", 4, send}, Worker{"pipeline", 6, pipeline}, Worker{"look", 5, look},
-                             Worker{"idle", 6, idle}, Worker{"insert", 3, insert},     Worker{"fill-log", 2, fillLog},
-                             Worker{"sink", 1, sink}};
+constexpr std::array workers{
+    Worker{"send", 4, send}, Worker{"pipeline", 6, pipeline}, Worker{"look", 5, look},
+    Worker{"idle", 6, idle}, Worker{"insert", 3, insert},     Worker{"fill-log", 2, fillLog},
+    Worker{"sink", 1, sink}, Worker{"view-log", 2, viewLog},  Worker{"export-log", 3, exportLog}};
 
 }  // namespace
 

@@ -3,18 +3,24 @@
 #include <unistd.h>
 
 #include <QApplication>
+#include <QLocale>
 #include <QMessageBox>
 #include <QSessionManager>
 #include <QTimer>
 
 #include "EndSignals.h"
 #include "SingleInstance.h"
+#include "admin/AdminPasswordWindow.h"
+#include "admin/AdminWindow.h"
 #include "editor/EditTaskWindow.h"
 #include "engine/App.h"
 #include "engine/StartUp.h"
 #include "engine/UploadThread.h"
+#include "monitor/SystemLogWindow.h"
 #include "monitor/VTUploaderMainWIndow.h"
+#include "platform/Languages.h"
 #include "platform/SpecialFolder.h"
+#include "storage/LogEntry.h"
 #include "text/Placeholders.h"
 #include "text/VTULocalization.h"
 #include "version.h"
@@ -36,6 +42,8 @@ int main(int argc, char** argv) {
   QApplication::setDesktopFileName(QString::fromLatin1(AppId));
   QApplication::setWindowIcon(Pictures::programIcon());
   QApplication::setQuitOnLastWindowClosed(false);  // the main window quits by itself; a message box must not
+
+  Languages::install(Languages::choose(QLocale::system().uiLanguages()));
 
   const FolderItem dataFolder = SpecialFolder::ApplicationData();
   const IoResult made = SpecialFolder::createPrivate(dataFolder);
@@ -60,7 +68,10 @@ int main(int argc, char** argv) {
   MainWindowCommands commands;
   VTUploaderMainWIndow* shown = nullptr;
   commands.createNewTask = [&shown] { return EditTaskWindow::CreateNewTask(shown); };
+  commands.checkAdminPassword = [&shown] { return AdminPasswordWindow::CheckAdminPassword(shown); };
+  commands.showAdminWindow = [&shown] { return AdminWindow::ShowModal(shown); };
   commands.editTask = [&shown](const TaskPointer& task) { return EditTaskWindow::EditTask(task, shown); };
+  VantryUtil::LogEntry::setRowObserver(&SystemLogWindow::add);
   VTUploaderMainWIndow window(commands);
   shown = &window;
   QObject::connect(&instance, &SingleInstance::showRequested, &window, [&window] {
@@ -77,6 +88,7 @@ int main(int argc, char** argv) {
 
   const int exitCode = QApplication::exec();
   UploadThread::Enabled = false;
+  delete SystemLogWindow::openOne();  // an export that is under way leaves nothing behind
   const bool startUpEnded = StartUp::stop(StopLimitMs);
   const bool uploadEnded = UploadThread::stop(StopLimitMs);
   const bool callsEnded = BackgroundCall::waitForAll(CallsLimitMs);

@@ -42,7 +42,8 @@ EditTaskWindow::EditTaskWindow(TaskPointer task, QWidget* parent, int)
       theOutPutFolder([this] { outputAnswered(); }, nullptr),
       m_chooser(this),
       m_sameFolderTest("folder-test", nullptr),
-      m_mountTest("mount-test", nullptr),
+      m_inputMountTest("mount-test", nullptr),
+      m_outputMountTest("mount-test", nullptr),
       m_clearing("clear-date", nullptr),
       m_catalogues([this](Kind fetched) { catalogueFetched(fetched); }, nullptr) {
   setObjectName(u"EditTaskWindow"_s);
@@ -54,6 +55,10 @@ EditTaskWindow::EditTaskWindow(TaskPointer task, QWidget* parent, int)
   buildLeftColumn();
   buildRightColumn();
   buildFoot();
+  // Last, as their fields are enabled by a check mark only, and the letters may not last for all.
+  for (QLabel* const shown : {inputFolderURLLabel, inputLoginLabel, inputPasswordLabel, outputfolderURLLabel,
+                              outputLoginLabel, outputPasswordLabel})
+    shown->setText(m_letters.mark(shown->text()));
   paintQuietParts();
   setTabOrderOfControls();
   connectControls();
@@ -83,6 +88,7 @@ EditTaskWindow::EditTaskWindow(const TaskPointer& task, QWidget* parent) : EditT
   AutoRecognition->setChecked(Task->AutoRecognition);
   restoreStoredTrack();
   takeOverFolders();
+  takeOverMounts();
   ReplaceName->setChecked(Task->ReplaceName);
   Prefix->setText(Task->Prefix);
   AddDateToFileNameCheckBox->setChecked(Task->AddDateToFilename);

@@ -95,8 +95,19 @@ class EditTaskWindow : public QDialog {
   void chooseFolder(bool input);
   void takeChosenFolder(bool input, const FolderItem& chosen);
   void clearFolder(bool input);
+  // One mount group each; src/editor/EditTaskWindowMounts.cpp.
+  struct MountGroup {
+    QCheckBox* box;
+    QPushButton* test;
+    QLineEdit *url, *login, *password;
+  };
+  [[nodiscard]] MountGroup mountGroup(bool input) const;
+  void takeOverMounts();
+  void storeMounts(UploaderTask& saved) const;
   void AutoMount_Action(bool input);
   void TestAutoMount_Action(bool input);
+  void endMountTest(bool input);
+  void mountTested(bool input, const QString& path, int errorCode);
 
   void FileRecognitionHelpButton_Action();
   void ClearProcessDateStampButton_Action();
@@ -112,8 +123,11 @@ class EditTaskWindow : public QDialog {
   Mnemonics m_letters;
   AskedFolder theInputFolder, theOutPutFolder;
   bool m_inputTakenOver = false, m_outputTakenOver = false;  // as the task had it: forgotten if it is gone
+  bool m_inputForgotten = false, m_outputForgotten = false;  // so it was; a good mount may bring it back
+  bool m_inputChosen = false, m_outputChosen = false;         // by hand: taken as it is, mounted or not
+  std::optional<FolderItem> m_inputMount, m_outputMount;     // of a good test, where a choice begins
   PathChooser m_chooser;
-  BackgroundCall m_sameFolderTest, m_mountTest, m_clearing;
+  BackgroundCall m_sameFolderTest, m_inputMountTest, m_outputMountTest, m_clearing;
   CatalogueFetch m_catalogues;
 
   QLabel *TaskNameLabel, *TaskDescriptionLabel, *wardenLabel, *FileNameLabel, *ExtensionLabel, *FileNameExclusionLabel,

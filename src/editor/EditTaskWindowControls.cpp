@@ -151,7 +151,7 @@ void EditTaskWindow::buildMountGroup(bool input) {
     password = field<QLineEdit>(this, "outputPassword", {413, 389, 121, 22});
   }
   password->setEchoMode(QLineEdit::Password);
-  for (QWidget* const control : std::initializer_list<QWidget*>{box, test, url, login, password})
+  for (QWidget* const control : std::initializer_list<QWidget*>{test, url, login, password})
     control->setEnabled(false);
   if (input) {
     inputFolderURLLabel = label("inputFolderURLLabel", KLInputFolderURL(), {280, 100, 169, 20}, url);

@@ -1,4 +1,4 @@
-// The task editor's folders and mount groups.
+// The task editor's folders.
 
 #include "editor/EditTaskWindow.h"
 #include "text/VTULocalization.h"
@@ -44,6 +44,7 @@ void EditTaskWindow::inputAnswered() {
     System::DebugLog(u"InputFolder does not exist"_s);
     theInputFolder.take({});
     InputFolder->setFile({});
+    m_inputForgotten = true;
   }
   // A share that doesn't answer is not gone: its path is kept until it says so.
   if (state != FolderState::NoAnswer) m_inputTakenOver = false;
@@ -56,6 +57,7 @@ void EditTaskWindow::outputAnswered() {
   if (m_outputTakenOver && state == FolderState::Missing) {
     theOutPutFolder.take({});
     OutputFolder->setFile({});
+    m_outputForgotten = true;
   }
   if (state != FolderState::NoAnswer) m_outputTakenOver = false;
 }
@@ -63,7 +65,8 @@ void EditTaskWindow::outputAnswered() {
 void EditTaskWindow::chooseFolder(bool input) {
   const PathChooser::Texts texts{input ? klInputFolder() : klOutputFolder(), klSelect(), klCancel(),
                                  input ? klInputFolderPrompt() : klOutputFolderPrompt()};
-  m_chooser.choose(PathChooser::What::Folder, texts, (input ? theInputFolder : theOutPutFolder).folder(),
+  const auto& known = (input ? theInputFolder : theOutPutFolder).folder();
+  m_chooser.choose(PathChooser::What::Folder, texts, known ? known : input ? m_inputMount : m_outputMount,
                    [this, input](const std::optional<FolderItem>& chosen) {
                      const auto other = (input ? theOutPutFolder : theInputFolder).folder();
                      if (!chosen) return CheckCanSave();
@@ -86,6 +89,8 @@ void EditTaskWindow::chooseFolder(bool input) {
 
 void EditTaskWindow::takeChosenFolder(bool input, const FolderItem& chosen) {
   (input ? m_inputTakenOver : m_outputTakenOver) = false;
+  (input ? m_inputForgotten : m_outputForgotten) = false;
+  (input ? m_inputChosen : m_outputChosen) = true;
   (input ? InputFolder : OutputFolder)->setFile(chosen);
   (input ? theInputFolder : theOutPutFolder).take(chosen);
   CheckCanSave();
@@ -93,48 +98,9 @@ void EditTaskWindow::takeChosenFolder(bool input, const FolderItem& chosen) {
 }
 
 void EditTaskWindow::clearFolder(bool input) {
+  (input ? m_inputForgotten : m_outputForgotten) = false;
   (input ? InputFolder : OutputFolder)->showNothing();
   (input ? theInputFolder : theOutPutFolder).take({});
   CheckCanSave();
   updateSample();
-}
-
-void EditTaskWindow::AutoMount_Action(bool input) {
-  const bool on = (input ? AutoMountInput : autoMountOutput)->isChecked();
-  (input ? TestAutoMountInput : TestAutoMountOUtput)->setEnabled(on);
-  (input ? inputFolderUrl : OutputFolderURL)->setEnabled(on);
-  (input ? inputLogin : outputLogin)->setEnabled(on);
-  (input ? InputPassword : outputPassword)->setEnabled(on);
-  CheckCanSave();
-}
-
-void EditTaskWindow::TestAutoMount_Action(bool input) {
-  MountRequest request;
-  request.url = (input ? inputFolderUrl : OutputFolderURL)->text().trimmed();
-  request.userName = (input ? inputLogin : outputLogin)->text().trimmed();
-  request.password = (input ? InputPassword : outputPassword)->text().trimmed();
-  if (request.url.isEmpty() || request.userName.isEmpty() || request.password.isEmpty())
-    return Messages::tell(this, klEnterMountDetails());
-
-  QPushButton* const test = input ? TestAutoMountInput : TestAutoMountOUtput;
-  test->setEnabled(false);
-  struct Outcome {
-    QString path;
-    int errorCode = 0;
-  };
-  const auto end = [this, test, input](const Outcome& outcome) {
-    test->setEnabled((input ? AutoMountInput : autoMountOutput)->isChecked());
-    if (outcome.path.trimmed().isEmpty())
-      return Messages::tell(this, klCouldNotMount() + u"\nERR:"_s + QString::number(outcome.errorCode));
-    UploaderTask::setTriedAutoMount(false);
-    Messages::tell(this, u"OK"_s + QString::number(outcome.errorCode), false);
-  };
-  m_mountTest.run<Outcome>(
-      0,
-      [request](const auto&) {
-        Outcome outcome;
-        outcome.path = UploaderTask::mountNow(request, outcome.errorCode);
-        return outcome;
-      },
-      end, [end] { end({}); });
 }

@@ -2,28 +2,14 @@
 
 #include "editor/EditTaskWindow.h"
 #include "platform/Problems.h"
+#include "storage/Preferences.h"
 #include "text/Placeholders.h"
 #include "text/VTULocalization.h"
+#include "widgets/Colours.h"
 #include "widgets/Messages.h"
 
 using namespace Qt::Literals::StringLiterals;
 using namespace VTULocalization;
-
-/// Plain red is hard to read on a dark ground.
-static QColor requiredColor(const QPalette& palette) {
-  const bool dark = palette.color(QPalette::Window).lightness() < 128;
-  return dark ? QColor(255, 120, 120) : QColor(255, 0, 0);
-}
-
-/// The ground's text colour with `parts` of eight of the ground itself.
-static QPalette quieter(const QPalette& palette, int parts) {
-  const QColor text = palette.color(QPalette::WindowText), ground = palette.color(QPalette::Window);
-  const auto mixed = [parts](int a, int b) { return ((8 - parts) * a + parts * b) / 8; };
-  QPalette quiet;
-  quiet.setColor(QPalette::WindowText, QColor(mixed(text.red(), ground.red()), mixed(text.green(), ground.green()),
-                                              mixed(text.blue(), ground.blue())));
-  return quiet;
-}
 
 void EditTaskWindow::paintQuietParts() {
   Sample->setPalette(quieter(palette(), 2));
@@ -98,6 +84,7 @@ bool EditTaskWindow::saveTask(const FolderItem& f) {
   saved->inputFolderPath = saved->inputFolder ? saved->inputFolder->NativePath() : QString();
   saved->outputFolder = theOutPutFolder.folder();
   saved->outputFolderPath = saved->outputFolder ? saved->outputFolder->NativePath() : QString();
+  storeMounts(*saved);
   saved->Prefix = Prefix->text().trimmed();
   saved->AddDateToFilename = AddDateToFileNameCheckBox->isChecked();
   saved->DeleteAfterSave = DeleteFileAfterCopyCheckBox->isChecked();
@@ -108,6 +95,12 @@ bool EditTaskWindow::saveTask(const FolderItem& f) {
     Messages::tell(this, klTaskNotSaved() + u"\n\n"_s + failure.message());
     return false;
   }
+  if (m_inputChosen) UploaderTask::takeAsItIs(saved->inputFolderPath);
+  if (m_outputChosen) UploaderTask::takeAsItIs(saved->outputFolderPath);
+  if (m_inputChosen || m_outputChosen)
+    // The window doesn't wait for the disk: what it stores is in force already.
+    BackgroundCall("save", nullptr)
+        .run<bool>(0, [prefs = VantryUtil::prefs](const auto&) { return VantryUtil::savePreferences(*prefs); }, {});
   if (!Task) {
     UploaderTask::addTask(saved);
     return true;

@@ -70,7 +70,7 @@ class BatchLedger {
   /// Drops the memory if the limit was set back.
   void takeLimit(double dateLimit);
 
-  QHash<Fingerprint, qint64> m_dealtWith;  // fingerprint of name, size and date -> date in ns
+  QHash<Fingerprint, qint64> m_dealtWith;     // fingerprint of name, size and date -> date in ns
   QHash<QByteArray, Observation> m_observed;  // of the last listing, without what is dealt with
   QSet<Fingerprint> m_lastListing;
   std::vector<ScannedFile> m_waiting;

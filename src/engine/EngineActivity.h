@@ -11,5 +11,7 @@ struct EngineActivity {
 
 [[nodiscard]] EngineActivity engineActivity();
 void setEngineActivity(const EngineActivity& activity);
+/// Ends what is told of this task; another's stays.
+void clearEngineActivity(const QString& task);
 /// Only the bytes of the file under way.
 void setEngineProgress(qint64 sentBytes, qint64 totalBytes);

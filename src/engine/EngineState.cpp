@@ -27,6 +27,11 @@ void setEngineActivity(const EngineActivity& activity) {
   current = activity;
 }
 
+void clearEngineActivity(const QString& task) {
+  const std::lock_guard lock(activityMutex);
+  if (current.task == task) current = {};
+}
+
 void setEngineProgress(qint64 sentBytes, qint64 totalBytes) {
   const std::lock_guard lock(activityMutex);
   current.sentBytes = sentBytes;

@@ -6,6 +6,7 @@
 #include "engine/UploaderTask.h"
 #include "platform/Problems.h"
 #include "storage/Preferences.h"
+#include "text/VTULocalization.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -53,10 +54,12 @@ UploaderTask::FolderLook UploaderTask::lookAtInputFolder() {
   FolderLook look;
   look.began = clock.now();
   if (!inputFolder) {
-    look.result = IoResult::failure(ENOENT, u"the task has no input folder"_s);
+    look.result = IoResult::failure(ENOENT, VTULocalization::klNoInputFolder());
     return look;
   }
-  const FolderScanResult listing = listInputFolder(BatchLedger::cutoff(dateLimit, look.began));
+  FolderScanResult listing = listInputFolder(BatchLedger::cutoff(dateLimit, look.began));
+  // The bare folder under a share that went away would pass for an empty one.
+  if (listing.result.ok() && !inputIsThere()) listing.result = IoResult::failure(ENOTCONN, inputFolder->NativePath());
   look.result = listing.result;
   if (!listing.result.ok()) {
     if (listing.result.error != ECANCELED)
@@ -65,6 +68,7 @@ UploaderTask::FolderLook UploaderTask::lookAtInputFolder() {
   }
   Problems::clear(Problem::Kind::InputFolderUnreadable, Name);
   const std::lock_guard lock(m_ledgerMutex);
+  if (VantryUtil::prefs && clearedMeanwhile()) m_ledger = {}, m_ledgerStored = false;
   look.files = readLedger().look(listing.files, dateLimit, look.began, clock.monotonicMs());
   return look;
 }
@@ -104,20 +108,37 @@ Verdict UploaderTask::judgeVersion(const ScannedFile& scanned, double limit) con
   return ledger.judge(scanned, limit, clock.now(), clock.monotonicMs());
 }
 
-void UploaderTask::updateDateLimit(bool clear, double seconds) {
-  if (!VantryUtil::prefs) return;
-  DictionaryFile& prefs = *VantryUtil::prefs;
-  if (clear) {
-    prefs.setDoubleValue(limitKey(Name), 0);
-    prefs.Remove(ledgerKey(Name, inputFolderPath));
-  } else {
-    if (storedDateLimit(Name) < dateLimit) return;  // cleared since the last look: all is due again
-    const std::lock_guard lock(m_ledgerMutex);
-    prefs.setDoubleValue(limitKey(Name), seconds);
-    prefs.setStringValue(ledgerKey(Name, inputFolderPath), readLedger().toText());
-  }
-  if (prefs.save())
+void UploaderTask::keepLedger() { storeLedger(std::nullopt); }
+
+bool UploaderTask::clearedMeanwhile() const {
+  if (storedDateLimit(Name) < dateLimit) return true;
+  // A limit that has never been set can't be seen to fall.
+  return dateLimit <= 0 && m_ledgerStored && !VantryUtil::prefs->HasKey(ledgerKey(Name, inputFolderPath));
+}
+
+static void savePreferences() {
+  if (VantryUtil::prefs->save())
     Problems::clear(Problem::Kind::PreferencesNotSaved, {});
   else
-    Problems::raise(Problem::Kind::PreferencesNotSaved, {}, prefs.lastFailure().message());
+    Problems::raise(Problem::Kind::PreferencesNotSaved, {}, VantryUtil::prefs->lastFailure().message());
+}
+
+void UploaderTask::storeLedger(std::optional<double> limit) {
+  if (!VantryUtil::prefs) return;
+  {
+    const std::lock_guard lock(m_ledgerMutex);
+    if (clearedMeanwhile()) return;  // all is due again
+    if (limit) VantryUtil::prefs->setDoubleValue(limitKey(Name), *limit);
+    VantryUtil::prefs->setStringValue(ledgerKey(Name, inputFolderPath), readLedger().toText());
+    m_ledgerStored = true;
+  }
+  savePreferences();
+}
+
+void UploaderTask::updateDateLimit(bool clear, double seconds) {
+  if (!clear) return storeLedger(seconds);
+  if (!VantryUtil::prefs) return;
+  VantryUtil::prefs->setDoubleValue(limitKey(Name), 0);
+  VantryUtil::prefs->Remove(ledgerKey(Name, inputFolderPath));
+  savePreferences();
 }

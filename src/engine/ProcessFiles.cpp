@@ -2,19 +2,20 @@
 // moves. Files are sent on the upload thread; what follows is done in the same order on a thread beside it, so that the
 // next file is on its way while a copy and a row reach the disk.
 
+#include <algorithm>
+#include <cerrno>
 #include <utility>
 
 #include "engine/EngineActivity.h"
 #include "engine/EngineClock.h"
+#include "engine/KeepSent.h"
 #include "engine/OrderedWork.h"
 #include "engine/UploadThread.h"
 #include "engine/UploaderTask.h"
 #include "platform/Problems.h"
 #include "platform/SafeFile.h"
+#include "service/SpareConnection.h"
 #include "service/VantryUtil.h"
-#include "storage/LogEntry.h"
-#include "text/Placeholders.h"
-#include "text/VTULocalization.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -22,17 +23,24 @@ namespace {
 
 class BusyFlag {
  public:
-  explicit BusyFlag(std::atomic<bool>& flag) : m_flag(flag) { m_flag = true; }
+  explicit BusyFlag(UploaderTask& task) : m_task(task) { m_task.Busy = true; }
   ~BusyFlag() {
-    setEngineActivity({});
-    m_flag = false;
+    clearEngineActivity(m_task.Name);
+    m_task.Busy = false;
   }
   BusyFlag(const BusyFlag&) = delete;
   BusyFlag& operator=(const BusyFlag&) = delete;
 
  private:
-  std::atomic<bool>& m_flag;
+  UploaderTask& m_task;
 };
+
+/// A failure of the disk or the share and not of the file, which therefore waits for a later look.
+bool mayPass(int error) {
+  constexpr int known[] = {EIO,       ENOTCONN,     ESTALE,      ETIMEDOUT,    EHOSTDOWN,
+                           EREMOTEIO, EHOSTUNREACH, ENETUNREACH, ECONNABORTED, ECONNRESET};
+  return std::find(std::begin(known), std::end(known), error) != std::end(known);
+}
 
 class Batch {
  public:
@@ -41,38 +49,44 @@ class Batch {
     try {
       sendAll();
     } catch (...) {
-      tellLedger();
+      breakOff();
       throw;
     }
   }
 
  private:
-  enum class Sent { Good, Refused, Gone, Moving, Stopped };
-  struct Attempt {
-    Sent outcome = Sent::Gone;
-    QString error;      // as the service or the exchange named it
-    QString detail;     // " - " and the words of a service code
-    QString transport;  // how the exchange failed, for the window
-  };
+  enum class Sent { Whole, Moving, Stopped, FolderLost };
 
   void sendAll();
+  /// True when the batch is to end here: what is left waits for a later run.
+  [[nodiscard]] bool over() const {
+    return UploadThread::stopping() || m_task.leftBehind || m_outputLost || m_keeping.failed();
+  }
   /// False when the batch was broken off: the file counts as not dealt with.
-  bool process(const ScannedFile& scanned);
-  /// All that is to be done with a file after it was sent, the log row last.
-  void keep(const FolderItem& file, const ScannedFile& scanned, const QString& newName, const Attempt& attempt);
+  bool process(const ScannedFile& scanned, bool anotherFollows);
   /// Waits until all that was sent is kept, and tells the ledger.
   void tellLedger();
   /// The same; throws what a keeping threw.
   void settle();
-  Attempt send(const FolderItem& file, const ScannedFile& scanned, const QString& newName);
-  void keepGood(const FolderItem& file, const ScannedFile& scanned, const QString& newName, VantryUtil::LogEntry& entry);
-  void keepFailed(const FolderItem& file, const ScannedFile& scanned, const Attempt& attempt,
-                  VantryUtil::LogEntry& entry);
-  IoResult copy(const FolderItem& file, const ScannedFile& scanned, FolderItem& target) const;
+  /// Ends the batch before its time: what was sent is remembered, and the rest stays due.
+  void breakOff();
+  /// Fills the outcome in where the file, or its absence, is now dealt with.
+  Sent send(SentFile& file, bool anotherFollows);
+  /// What it means that a file can't be looked at. One that goes with its whole folder is sent when that is back, and
+  /// one of which nothing can be told for the moment waits for a later look.
+  [[nodiscard]] Sent missing(const FolderItem& file) const {
+    if (!m_task.inputIsThere()) return Sent::FolderLost;
+    return isGone(file) ? Sent::Whole : Sent::Moving;
+  }
+  void keep(std::vector<SentFile>& sent);
 
   UploaderTask& m_task;
+  std::atomic<bool> m_outputLost{false};
+  SpareConnection m_spare;
   std::vector<ScannedFile> m_kept;  // of the keeping thread until settle() has waited for it
-  OrderedWork m_keeping;            // ends before what it uses
+  bool m_dealtWith = false;         // with any file
+  // Ends before what it uses.
+  OrderedWork<SentFile> m_keeping{"upload-keep", [this](std::vector<SentFile>& sent) { keep(sent); }};
 };
 
 void Batch::sendAll() {
@@ -82,8 +96,12 @@ void Batch::sendAll() {
   while (look.result.ok() && !look.files.due.empty()) {
     limit = look.began;
     for (const ScannedFile& scanned : look.files.due)
-      if (UploadThread::stopping() || m_keeping.failed() || !process(scanned)) return settle();
+      if (over() || !process(scanned, &scanned != &look.files.due.back())) {
+        breakOff();
+        return m_keeping.throwFailure();
+      }
     settle();
+    if (m_task.leftBehind || m_outputLost) break;
     if (!UploadThread::Enabled) break;  // what lands from here on is dated past this look, and waits for the next run
     look = m_task.lookAtInputFolder();
   }
@@ -93,7 +111,10 @@ void Batch::sendAll() {
 
 void Batch::tellLedger() {
   m_keeping.wait();
-  for (const ScannedFile& scanned : std::exchange(m_kept, {})) m_task.dealtWith(scanned);
+  for (const ScannedFile& scanned : std::exchange(m_kept, {})) {
+    m_task.dealtWith(scanned);
+    m_dealtWith = true;
+  }
 }
 
 void Batch::settle() {
@@ -101,134 +122,74 @@ void Batch::settle() {
   m_keeping.throwFailure();
 }
 
-bool Batch::process(const ScannedFile& scanned) {
-  const FolderItem file = m_task.inputFolder->ChildBytes(scanned.name);
-  const QString newName = m_task.Rename(file.Name(), engineClock().now());
-  const Attempt attempt = send(file, scanned, newName);
-  if (attempt.outcome == Sent::Stopped) return false;
-  if (attempt.outcome == Sent::Moving) {
-    m_task.foundMoving(scanned);
-    return true;
+void Batch::breakOff() {
+  tellLedger();
+  if (std::exchange(m_dealtWith, false)) m_task.keepLedger();
+}
+
+bool Batch::process(const ScannedFile& scanned, bool anotherFollows) {
+  SentFile file(m_task.inputFolder->ChildBytes(scanned.name), scanned);
+  file.newName = m_task.Rename(file.file.Name(), engineClock().now());
+  switch (send(file, anotherFollows)) {
+    case Sent::Stopped:
+    case Sent::FolderLost:
+      return false;
+    case Sent::Moving:
+      m_task.foundMoving(scanned);
+      return true;
+    case Sent::Whole:
+      break;
   }
-  if (attempt.outcome == Sent::Good) ++m_task.UploadedCount;
-  m_keeping.add([=, this] { keep(file, scanned, newName, attempt); });
+  if (file.outcome == SentFile::Outcome::Good) ++m_task.UploadedCount;
+  m_keeping.add(std::move(file));
   return true;
 }
 
-void Batch::keep(const FolderItem& file, const ScannedFile& scanned, const QString& newName, const Attempt& attempt) {
-  VantryUtil::LogEntry entry;
-  entry.setValue(u"InputFolder"_s, m_task.inputFolder->NativePath());
-  entry.setValue(u"OutputFolder"_s, m_task.outputFolder ? m_task.outputFolder->NativePath() : u"n/a"_s);
-  entry.setValue(u"OriginalName"_s, file.Name());
-  entry.setValue(u"Track"_s, m_task.Track);
-  switch (attempt.outcome) {
-    case Sent::Stopped:
-    case Sent::Moving:
-      return;  // nothing was sent whole
-    case Sent::Gone:
-      entry.setValue(u"Notes"_s, u"File not accessible"_s);
-      break;
-    case Sent::Good:
-      Problems::clear(Problem::Kind::UploadFailed, m_task.Name);
-      keepGood(file, scanned, newName, entry);
-      break;
-    case Sent::Refused:
-      keepFailed(file, scanned, attempt, entry);
-      break;
-  }
-  m_kept.push_back(scanned);
-  entry.WriteToLog();
+void Batch::keep(std::vector<SentFile>& sent) {
+  const HeldUpCalls::Count counted(m_task.keepingCalls);
+  const std::vector<VantryUtil::LogEntry> entries = keepSent(m_task, sent);
+  if (!m_task.outputIsThere()) m_outputLost = true;
+  for (const SentFile& file : sent) m_kept.push_back(file.scanned);
+  VantryUtil::LogEntry::writeAll(entries);
 }
 
-Batch::Attempt Batch::send(const FolderItem& file, const ScannedFile& scanned, const QString& newName) {
-  Attempt attempt;
-  const auto version = versionOf(file);
-  if (!version) return attempt;
-  attempt.outcome = Sent::Moving;
-  if (*version != scanned.version) return attempt;
+Batch::Sent Batch::send(SentFile& file, bool anotherFollows) {
+  const auto version = versionOf(file.file);
+  if (!version) return missing(file.file);
+  if (!m_task.outputIsThere()) return Sent::FolderLost;
+  if (m_task.leftBehind) return Sent::Stopped;
+  if (*version != file.scanned.version) return Sent::Moving;
 
-  setEngineActivity({true, m_task.Name, file.Name(), 0, scanned.version.size});
+  setEngineActivity({true, m_task.Name, file.file.Name(), 0, version->size});
   VantryUtil::SendFileWatch watch;
-  watch.version = scanned.version;
+  watch.version = *version;
   watch.progress = setEngineProgress;
+  watch.spare = &m_spare;
+  watch.anotherFollows = anotherFollows;
   const bool instrument = m_task.Warden.compare(u"Instrument"_s, Qt::CaseInsensitive) == 0;
-  const auto reply = VantryUtil::SendFile(newName, m_task.Track, file, instrument, attempt.error, watch);
+  const auto reply = VantryUtil::SendFile(file.newName, m_task.Track, file.file, instrument, file.error, watch);
 
-  if (reply) attempt.outcome = Sent::Good;
-  else if (UploadThread::stopping() || watch.failure.phase == HttpFailure::Phase::Stopped)
-    attempt.outcome = Sent::Stopped;
-  else if (watch.fileChanged) attempt.outcome = versionOf(file) ? Sent::Moving : Sent::Gone;
-  else attempt.outcome = Sent::Refused;
-
-  attempt.transport = watch.failure.detail;
-  if (attempt.error.startsWith(u'E', Qt::CaseInsensitive)) {
-    const QString words = VantryUtil::errToString(attempt.error);
-    if (!words.isEmpty()) attempt.detail = u" - "_s + words;
-  }
-  return attempt;
-}
-
-IoResult Batch::copy(const FolderItem& file, const ScannedFile& scanned, FolderItem& target) const {
-  IoResult result;
-  const FolderItem wanted = target;
-  for (int tries = 0; tries < 100; ++tries) {
-    target = wanted;
-    UploaderTask::DistinctName(target);
-    result = copyFileSafely(file, scanned.version, target);
-    if (result.error != EEXIST) break;  // somebody else took the name in between
-  }
-  if (result.ok()) Problems::clear(Problem::Kind::CopyFailed, m_task.Name);
-  else Problems::raise(Problem::Kind::CopyFailed, m_task.Name, file.Name() + u": "_s + result.message());
-  return result;
-}
-
-void Batch::keepGood(const FolderItem& file, const ScannedFile& scanned, const QString& newName,
-                     VantryUtil::LogEntry& entry) {
-  QString notes = u"Uploaded to "_s + m_task.Warden;
-  if (!m_task.outputFolderPath.isEmpty() && m_task.outputFolder) {
-    notes += u" Warden - Saved"_s;
-    FolderItem target = m_task.outputFolder->Child(newName);
-    const IoResult copied = copy(file, scanned, target);
-    entry.setValue(u"Notes"_s, notes);
-    if (!copied.ok()) {
-      // Without a whole copy the input is all there is: it stays.
-      entry.setValue(u"Notes"_s, notes + fillPlaceholders(VTULocalization::klCopyFailedNote(), {copied.message()}));
-      return;
+  if (!reply && (UploadThread::stopping() || watch.failure.phase == HttpFailure::Phase::Stopped)) return Sent::Stopped;
+  if (!reply && watch.fileChanged) return versionOf(file.file) ? Sent::Moving : missing(file.file);
+  if (!reply && watch.failure.phase == HttpFailure::Phase::Source) {
+    if (!m_task.inputIsThere()) return Sent::FolderLost;
+    if (mayPass(watch.failure.code)) {
+      Problems::raise(Problem::Kind::UploadFailed, m_task.Name, file.file.Name() + u": "_s + watch.failure.detail);
+      return Sent::Moving;
     }
-    entry.setValue(u"NewName"_s, target.Name());
   }
-  if (!m_task.DeleteAfterSave) return;
-
-  const auto version = versionOf(file);
-  IoResult deleted = version == scanned.version ? file.Delete() : IoResult();
-  if (version && version != scanned.version) return;  // a newer version took its place, and is due by itself
-  if (deleted.ok()) {
-    entry.setValue(u"Notes"_s, u"Uploaded to "_s + m_task.Warden + u" - Deleted Locally"_s);
-    entry.setValue(u"NewName"_s, u"n/a"_s);
-  } else {
-    Problems::raise(Problem::Kind::CopyFailed, m_task.Name, file.Name() + u": "_s + deleted.message());
-    entry.setValue(u"Notes"_s, notes + fillPlaceholders(VTULocalization::klDeleteFailedNote(), {deleted.message()}));
+  file.outcome = reply ? SentFile::Outcome::Good : SentFile::Outcome::Refused;
+  file.transport = watch.failure.detail;
+  if (file.error.startsWith(u'E', Qt::CaseInsensitive)) {
+    const QString words = VantryUtil::errToString(file.error);
+    if (!words.isEmpty()) file.detail = u" - "_s + words;
   }
-}
-
-void Batch::keepFailed(const FolderItem& file, const ScannedFile& scanned, const Attempt& attempt,
-                       VantryUtil::LogEntry& entry) {
-  QString notes = u"Failed to upload to "_s + m_task.Warden + u" - moved to error folder. Error Reported: "_s +
-                  attempt.error + attempt.detail;
-  if (!m_task.outputFolderPath.isEmpty() && m_task.ErrorFolder) {
-    FolderItem target = m_task.ErrorFolder->Child(file.Name());
-    const IoResult copied = copy(file, scanned, target);
-    if (copied.ok()) entry.setValue(u"NewName"_s, target.Name());
-    else notes += fillPlaceholders(VTULocalization::klCopyFailedNote(), {copied.message()});
-  }
-  entry.setValue(u"Notes"_s, notes);
-  const QString reason = attempt.error.isEmpty() ? attempt.transport : attempt.error + attempt.detail;
-  Problems::raise(Problem::Kind::UploadFailed, m_task.Name, file.Name() + u": "_s + reason);
+  return Sent::Whole;
 }
 
 }  // namespace
 
 void UploaderTask::ProcessFiles() {
-  const BusyFlag busy(Busy);
+  const BusyFlag busy(*this);
   Batch(*this).run();
 }

@@ -1,12 +1,17 @@
 // Which task is next, and whether its folders are in order.
 
+#include <atomic>
 #include <exception>
 #include <mutex>
 
+#include "engine/FolderWork.h"
+#include "engine/MountMemory.h"
 #include "engine/UploadThread.h"
 #include "engine/UploaderTask.h"
 #include "platform/Clock.h"
+#include "platform/Problems.h"
 #include "platform/SafeFile.h"
+#include "text/VTULocalization.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -17,6 +22,22 @@ std::mutex mountMutex;  // guards the three below
 bool mtriedAutoMount = false;
 qint64 lastAutomountAttempt = 0;
 UploaderTask::MountOperation mountOperation;
+
+/// True for the one that mounts at the moment: after a failure nobody else is to try.
+class MountTurn {
+ public:
+  MountTurn() : m_mine(!s_taken.exchange(true)) {}
+  ~MountTurn() {
+    if (m_mine) s_taken = false;
+  }
+  MountTurn(const MountTurn&) = delete;
+  MountTurn& operator=(const MountTurn&) = delete;
+  [[nodiscard]] bool mine() const { return m_mine; }
+
+ private:
+  static inline std::atomic<bool> s_taken{false};
+  bool m_mine;
+};
 }  // namespace
 
 QString UploaderTask::mountNow(const MountRequest& request, int& errorCode) {
@@ -59,48 +80,95 @@ void UploaderTask::TryAutoMount(bool input) {
   if (input ? path.trimmed().isEmpty() : path.isEmpty()) return;
 
   if (const auto fresh = FolderItem::fromNativePath(path)) handle = fresh;
-  if (handle && handle->Exists()) return;
-  if (!(input ? AutoMountInputFolder : autoMountOutputFolder) || triedAutoMount()) return;
-  QString url = input ? inputfolderURL : outputFolderUrl;
-  if (url.trimmed().isEmpty()) return;
+  const QString& url = input ? inputfolderURL : outputFolderUrl;
+  const bool wanted = input ? AutoMountInputFolder : autoMountOutputFolder;
+  if (handle && handle->Exists()) {
+    if (wanted) Problems::clear(Problem::Kind::ShareNotMounted, shareForDisplay(url));
+    return;
+  }
+  if (!wanted || url.trimmed().isEmpty()) return;
+  const MountTurn turn;
+  if (!turn.mine() || triedAutoMount()) return;
 
   MountRequest request;
-  request.url = url.replace(u' ', u"%20"_s);
+  request.url = QString(url).replace(u' ', u"%20"_s);
   request.userName = input ? InputLogin : outputLogin;
   request.password = input ? inputPassword : outputPassword;
   int errorCode = 0;
+  const FolderCall call;
   const bool mounted = !mountNow(request, errorCode).trimmed().isEmpty();
   const auto fresh = FolderItem::fromNativePath(path);
   setTriedAutoMount(!mounted || !fresh);
   if (mounted && fresh) handle = fresh;
+  if (mounted)
+    Problems::clear(Problem::Kind::ShareNotMounted, shareForDisplay(url));
+  else
+    Problems::raise(Problem::Kind::ShareNotMounted, shareForDisplay(url), VTULocalization::mountFailureText(errorCode));
 }
 
-void UploaderTask::updateStatus() {
+UploaderTask::StatusValue UploaderTask::lookAtFolders() {
   TryAutoMount(true);
   TryAutoMount(false);
-  const auto usable = [](const std::optional<FolderItem>& folder) {
-    return folder && folder->Directory() && folder->IsWriteable();
+  QString bare;
+  const auto usable = [&bare](const std::optional<FolderItem>& folder) {
+    if (!folder || !folder->Directory() || !folder->IsWriteable()) return false;
+    const QString missing = missingMountPoint(*folder);
+    if (!missing.isEmpty()) bare = missing;
+    return missing.isEmpty();
   };
-  Status = usable(inputFolder) && (outputFolderPath.isEmpty() || usable(outputFolder)) ? Ready : Fault;
+  const bool ready = usable(inputFolder) && (outputFolderPath.isEmpty() || usable(outputFolder));
+  if (bare.isEmpty())
+    Problems::clear(Problem::Kind::NothingMounted, Name);
+  else
+    Problems::raise(Problem::Kind::NothingMounted, Name, bare);
+  if (!ready) return Fault;
+  m_inputDevice = inputFolder->Device();
+  m_outputDevice = outputFolder ? outputFolder->Device() : std::nullopt;
+  return Ready;
 }
+
+/// A batch that no look preceded has nothing to compare with.
+static bool isThere(const std::optional<FolderItem>& folder, const std::optional<quint64>& device) {
+  const auto present = folder ? folder->Device() : std::nullopt;
+  return present && (!device || present == device);
+}
+
+bool UploaderTask::inputIsThere() const { return isThere(inputFolder, m_inputDevice); }
+
+bool UploaderTask::outputIsThere() const { return outputFolderPath.isEmpty() || isThere(outputFolder, m_outputDevice); }
 
 void UploaderTask::updateAllStatus() {
   for (const TaskPointer& task : allTasks()) {
     if (UploadThread::stopping()) return;
-    task->updateStatus();
+    if (task->leftBehind) {
+      task->Status = Fault;
+      continue;
+    }
+    const auto status = std::make_shared<StatusValue>(Fault);
+    const bool answered = FolderWork::run(task, [task, status] { *status = task->lookAtFolders(); });
+    task->Status = answered ? *status : Fault;
   }
 }
 
 TaskPointer UploaderTask::getNextTaskWithFiles() {
   for (const TaskPointer& task : allTasks()) {
     if (UploadThread::stopping()) return nullptr;
-    if (task->Status != Fault && !task->Busy && !task->disabled && task->getFileCount() > 0) return task;
+    if (task->Status == Fault || task->Busy || task->disabled || task->leftBehind) continue;
+    const auto count = std::make_shared<qint64>(0);
+    if (!FolderWork::run(task, [task, count] { *count = task->getFileCount(); }))
+      task->Status = Fault;
+    else if (*count > 0)
+      return task;
   }
   return nullptr;
 }
 
 bool UploaderTask::PrepareToUpload() {
   if (!inputFolder || !inputFolder->Exists()) return false;
+  if (!inputIsThere() || !outputIsThere()) {
+    Status = Fault;
+    return false;
+  }
   if (!m_outputSwept && outputFolder && outputFolder->Exists()) {
     // Copies that an earlier process was killed at lie hidden among the good ones.
     removeLeftovers(*outputFolder);

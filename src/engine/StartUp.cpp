@@ -4,6 +4,7 @@
 #include <chrono>
 #include <condition_variable>
 #include <exception>
+#include <memory>
 #include <mutex>
 #include <thread>
 
@@ -26,11 +27,14 @@ constexpr auto LongestRetry = 300s;
 
 // Never destroyed, as a thread that hangs in a name look-up may outlive main().
 struct Worker {
-  std::mutex mutex;  // guards alive, stopping and thread
+  std::mutex mutex;  // guards all below but the conditions
   std::condition_variable wake, ended;
   std::thread thread;
+  StartUp::Events events;            // the thread's own while it is alive
+  std::unique_ptr<UploadHold> hold;  // until the endpoint of another login has been asked for
   bool alive = false;
   bool stopping = false;
+  bool refreshWanted = false;
 };
 
 Worker& worker() {
@@ -45,8 +49,10 @@ bool hasLogin() {
 }
 
 void report(bool answered, const HttpFailure& failure) {
-  if (failure.failed()) Problems::raise(Problem::Kind::ServiceUnreachable, {}, failure.detail);
-  else if (answered) Problems::clear(Problem::Kind::ServiceUnreachable, {});
+  if (failure.failed())
+    Problems::raise(Problem::Kind::ServiceUnreachable, {}, failure.detail);
+  else if (answered)
+    Problems::clear(Problem::Kind::ServiceUnreachable, {});
 }
 
 bool resolve(HttpFailure* failure) {
@@ -59,20 +65,20 @@ bool complete() {
   return !VantryUtil::AccountURL().trimmed().isEmpty() && VTTrack::everFetched() && VTInstrumentTrack::everFetched();
 }
 
-/// Makes those calls again that never succeeded.
-void fetchWhatIsMissing() {
-  if (!hasLogin()) return;
-  HttpFailure failure;
-  if (VantryUtil::AccountURL().trimmed().isEmpty() && !resolve(&failure)) return;
-  if (!VTTrack::everFetched()) report(VantryUtil::TrackList(&failure), failure);
-  if (!VTInstrumentTrack::everFetched()) report(VantryUtil::InstrumentTrackList(&failure), failure);
+/// Lets uploading go on, unless the endpoint is to be asked for once more.
+void endHold() {
+  const std::lock_guard lock(worker().mutex);
+  if (!worker().refreshWanted) worker().hold.reset();
 }
 
-/// Waits for `pause`; false when the thread is to end.
-bool pauseFor(std::chrono::seconds pause) {
-  Worker& w = worker();
-  std::unique_lock lock(w.mutex);
-  return !w.wake.wait_for(lock, pause, [&w] { return w.stopping; });
+/// Makes those calls again that have not succeeded for the present login.
+void fetchWhatIsMissing() {
+  HttpFailure failure;
+  const bool endpointKnown = hasLogin() && (!VantryUtil::AccountURL().trimmed().isEmpty() || resolve(&failure));
+  endHold();
+  if (!endpointKnown) return;
+  if (!VTTrack::everFetched()) report(VantryUtil::TrackList(&failure), failure);
+  if (!VTInstrumentTrack::everFetched()) report(VantryUtil::InstrumentTrackList(&failure), failure);
 }
 
 void sequence(const StartUp::Events& events) {
@@ -80,17 +86,56 @@ void sequence(const StartUp::Events& events) {
   // tasks come last because the upload thread works as soon as there are any.
   HttpFailure unreachable;
   (void)resolve(&unreachable);  // a failure is told by the problem it raised, and tried again below
-  UploadThread::Enabled = true;
+  UploadThread::enable();
   if (!unreachable.failed()) {  // where nobody answers, the tasks needn't wait for two more time-outs
     (void)VantryUtil::TrackList();
     (void)VantryUtil::InstrumentTrackList();
   }
   UploaderTask::Load();
   if (events.tasksLoaded) events.tasksLoaded();
+}
 
-  for (std::chrono::seconds pause = FirstRetry; !complete() && pauseFor(pause);
-       pause = std::min<std::chrono::seconds>(pause * 2, LongestRetry))
-    fetchWhatIsMissing();
+/// The thread touches nothing of the worker's after this. With the lock held.
+void countAsEnded(Worker& w) {
+  w.hold.reset();
+  w.alive = false;
+  w.ended.notify_all();
+}
+
+/// Waits until the service is to be asked again; false, and the thread has ended, if it isn't.
+bool waitForTurn(std::chrono::seconds& pause) {
+  Worker& w = worker();
+  std::unique_lock lock(w.mutex);
+  const auto due = [&w] { return w.stopping || w.refreshWanted; };
+  if (!due() && !complete()) {
+    w.wake.wait_for(lock, pause, due);
+    pause = std::min<std::chrono::seconds>(pause * 2, LongestRetry);
+  }
+  if (w.refreshWanted) pause = FirstRetry;
+  const bool again = !w.stopping && (w.refreshWanted || !complete());
+  w.refreshWanted = false;
+  if (!again) countAsEnded(w);
+  return again;
+}
+
+void run(bool fromStart) {
+  Worker& w = worker();
+  System::nameThisThread("start-up");
+  try {
+    if (fromStart) sequence(w.events);
+    for (std::chrono::seconds pause = FirstRetry; waitForTurn(pause);) fetchWhatIsMissing();
+  } catch (const std::exception& e) {
+    if (w.events.failed) w.events.failed(QString::fromUtf8(e.what()));
+    const std::lock_guard lock(w.mutex);
+    countAsEnded(w);
+  }
+}
+
+/// With the lock held, and no thread alive.
+void launch(Worker& w, bool fromStart) {
+  if (w.thread.joinable()) w.thread.join();
+  w.alive = true;
+  w.thread = std::thread(run, fromStart);
 }
 
 }  // namespace
@@ -99,19 +144,25 @@ void StartUp::begin(const Events& events) {
   Worker& w = worker();
   const std::lock_guard lock(w.mutex);
   if (w.alive) return;
-  w.alive = true;
   w.stopping = false;
-  w.thread = std::thread([&w, events] {
-    System::nameThisThread("start-up");
-    try {
-      sequence(events);
-    } catch (const std::exception& e) {
-      if (events.failed) events.failed(QString::fromUtf8(e.what()));
-    }
-    const std::lock_guard inner(w.mutex);
-    w.alive = false;
-    w.ended.notify_all();
-  });
+  w.refreshWanted = false;
+  w.events = events;
+  launch(w, true);
+}
+
+void StartUp::refresh(bool otherLogin) {
+  Worker& w = worker();
+  const std::lock_guard lock(w.mutex);
+  if (w.stopping) return;
+  if (otherLogin) {
+    if (!w.hold) w.hold = std::make_unique<UploadHold>();
+    VantryUtil::setAccountURL({});
+    VTTrack::forget();
+    VTInstrumentTrack::forget();
+  }
+  w.refreshWanted = true;
+  w.wake.notify_all();
+  if (!w.alive) launch(w, false);
 }
 
 bool StartUp::stop(int timeoutMs) {

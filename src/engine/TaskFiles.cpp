@@ -38,6 +38,22 @@ constexpr std::array flagMembers{
     FlagMember{"deleteaftersave", &UploaderTask::DeleteAfterSave},
 };
 
+// The members of a side that mounts its share; a file without them reads as before.
+struct MountMembers {
+  FlagMember wanted;
+  std::array<TextMember, 3> details;
+};
+constexpr std::array mountMembers{
+    MountMembers{{"automountinputfolder", &UploaderTask::AutoMountInputFolder},
+                 {{{"inputfolderurl", &UploaderTask::inputfolderURL},
+                   {"inputlogin", &UploaderTask::InputLogin},
+                   {"inputpassword", &UploaderTask::inputPassword}}}},
+    MountMembers{{"automountoutputfolder", &UploaderTask::autoMountOutputFolder},
+                 {{{"outputfolderurl", &UploaderTask::outputFolderUrl},
+                   {"outputlogin", &UploaderTask::outputLogin},
+                   {"outputpassword", &UploaderTask::outputPassword}}}},
+};
+
 }  // namespace
 
 IoResult UploaderTask::open(const FolderItem& taskFile) {
@@ -46,17 +62,21 @@ IoResult UploaderTask::open(const FolderItem& taskFile) {
   const IoResult result = dictionary.open(taskFile);
   if (!result.ok()) return result;
 
-  for (const TextMember& member : textMembers)
-    this->*member.field = dictionary.StringValue(QLatin1String(member.key));
-  for (const FlagMember& member : flagMembers)
-    this->*member.field = dictionary.BooleanValue(QLatin1String(member.key));
+  for (const TextMember& member : textMembers) this->*member.field = dictionary.StringValue(QLatin1String(member.key));
+  for (const FlagMember& member : flagMembers) this->*member.field = dictionary.BooleanValue(QLatin1String(member.key));
+  for (const MountMembers& side : mountMembers) {
+    this->*side.wanted.field = dictionary.BooleanValue(QLatin1String(side.wanted.key));
+    for (const TextMember& member : side.details)
+      this->*member.field = dictionary.StringValue(QLatin1String(member.key));
+  }
   setExclusionPattern(dictionary.StringValue(u"exclusion"_s));
   inputFolder = dictionary.FileValue(u"inputfolder"_s);
   outputFolder = dictionary.FileValue(u"outputfolder"_s);
 
   if (exclusionRegEx && !exclusionRegEx->isValid())
     Problems::raise(Problem::Kind::ExclusionInvalid, Name, exclusionRegEx->errorString());
-  else Problems::clear(Problem::Kind::ExclusionInvalid, Name);
+  else
+    Problems::clear(Problem::Kind::ExclusionInvalid, Name);
   return {};
 }
 
@@ -67,6 +87,12 @@ bool UploaderTask::save(const FolderItem& taskFile, IoResult* failure) {
     dictionary.setStringValue(QLatin1String(member.key), this->*member.field);
   for (const FlagMember& member : flagMembers)
     dictionary.setBooleanValue(QLatin1String(member.key), this->*member.field);
+  for (const MountMembers& side : mountMembers) {
+    if (!(this->*side.wanted.field)) continue;
+    dictionary.setBooleanValue(QLatin1String(side.wanted.key), true);
+    for (const TextMember& member : side.details)
+      dictionary.setStringValue(QLatin1String(member.key), this->*member.field);
+  }
   dictionary.setStringValue(u"exclusion"_s, mExclusionPattern);
 
   const bool saved = dictionary.save(taskFile);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <mutex>
 
+#include "engine/AppFileTypes.h"
 #include "engine/UploaderTask.h"
 #include "platform/Problems.h"
 #include "platform/SafeFile.h"
@@ -27,11 +28,38 @@ QString cutToBytes(QString stem, qsizetype bytes) {
   return stem;
 }
 
-void clearProblemsOf(const QString& name) {
-  for (const auto kind : {Problem::Kind::ExclusionInvalid, Problem::Kind::ExclusionTooCostly,
-                          Problem::Kind::InputFolderUnreadable, Problem::Kind::CopyFailed, Problem::Kind::UploadFailed,
-                          Problem::Kind::RunFailed})
-    Problems::clear(kind, name);
+/// True if the task has that share mounted, by the address in which its problem is stated.
+bool wants(const UploaderTask& task, const QString& share) {
+  return (task.AutoMountInputFolder && shareForDisplay(task.inputfolderURL) == share) ||
+         (task.autoMountOutputFolder && shareForDisplay(task.outputFolderUrl) == share);
+}
+
+/// Of a task that is off the list; what another task still suffers from stays.
+void clearProblemsOf(const UploaderTask& task) {
+  for (const auto kind :
+       {Problem::Kind::ExclusionInvalid, Problem::Kind::ExclusionTooCostly, Problem::Kind::InputFolderUnreadable,
+        Problem::Kind::FolderSilent, Problem::Kind::NothingMounted, Problem::Kind::CopyFailed,
+        Problem::Kind::UploadFailed, Problem::Kind::RunFailed})
+    Problems::clear(kind, task.Name);
+  const QList<TaskPointer> listed = UploaderTask::allTasks();
+  for (const QString& url : {task.inputfolderURL, task.outputFolderUrl}) {
+    const QString share = shareForDisplay(url);
+    if (std::none_of(listed.begin(), listed.end(), [&](const TaskPointer& other) { return wants(*other, share); }))
+      Problems::clear(Problem::Kind::ShareNotMounted, share);
+  }
+}
+
+/// Takes a task off the list and returns it: the very object or, once the list was loaded anew, the one that was read
+/// from the same file. With the lock held.
+TaskPointer takeOff(const TaskPointer& task) {
+  const auto same = [&task](const TaskPointer& listed) {
+    return listed == task || (listed->file && task->file && listed->file->NativePath() == task->file->NativePath());
+  };
+  const auto found = std::find_if(list.begin(), list.end(), same);
+  if (found == list.end()) return nullptr;
+  TaskPointer taken = *found;
+  list.erase(found);
+  return taken;
 }
 }  // namespace
 
@@ -55,17 +83,25 @@ void UploaderTask::Load() {
     Problems::raise(Problem::Kind::TaskFolderUnreadable, {}, directory.NativePath());
   removeLeftovers(directory);
 
+  const QLatin1String ending(AppFileTypes::VantryTask.extension);
   QList<TaskPointer> loaded;
   for (const FolderItem& item : directory.Items()) {
-    if (!item.Visible() || item.Directory() || !item.Name().endsWith(u".vnt"_s, Qt::CaseInsensitive)) continue;
+    if (!item.Visible() || item.Directory() || !item.Name().endsWith(ending, Qt::CaseInsensitive)) continue;
     auto task = std::make_shared<UploaderTask>();
     const IoResult read = task->open(item);
-    if (read.ok()) loaded.append(task);
-    else Problems::raise(Problem::Kind::TaskFileSkipped, item.Name(), read.message());
+    if (read.ok())
+      loaded.append(task);
+    else
+      Problems::raise(Problem::Kind::TaskFileSkipped, item.Name(), read.message());
   }
   std::stable_sort(loaded.begin(), loaded.end(), before);
-  const std::lock_guard lock(listMutex);
-  list = loaded;
+  QList<TaskPointer> earlier = loaded;
+  {
+    const std::lock_guard lock(listMutex);
+    list.swap(earlier);
+  }
+  for (const TaskPointer& task : earlier)
+    if (!getTaskWIthName(task->Name)) clearProblemsOf(*task);
 }
 
 void UploaderTask::unload() {
@@ -80,25 +116,27 @@ void UploaderTask::addTask(const TaskPointer& task) {
 }
 
 IoResult UploaderTask::RemoveTask(const TaskPointer& task) {
+  TaskPointer taken;
   {
     const std::lock_guard lock(listMutex);
-    if (!list.removeOne(task)) return {};
+    taken = takeOff(task);
   }
-  clearProblemsOf(task->Name);
-  return task->MarkToDelete();
+  if (!taken) return {};
+  clearProblemsOf(*taken);
+  return taken->MarkToDelete();
 }
 
 IoResult UploaderTask::replaceTask(const TaskPointer& old, const TaskPointer& replacement) {
-  bool replaced = false;
+  TaskPointer replaced;
   {
     const std::lock_guard lock(listMutex);
-    replaced = list.removeOne(old);
+    replaced = takeOff(old);
     list.append(replacement);
     std::stable_sort(list.begin(), list.end(), before);
   }
   if (!replaced) return {};
-  clearProblemsOf(old->Name);
-  return old->MarkToDelete();
+  clearProblemsOf(*replaced);
+  return replaced->MarkToDelete();
 }
 
 IoResult UploaderTask::MarkToDelete() {

@@ -6,6 +6,8 @@
 #include <mutex>
 #include <thread>
 
+#include "engine/EngineActivity.h"
+#include "engine/FolderWork.h"
 #include "engine/UploaderTask.h"
 #include "platform/Problems.h"
 #include "platform/System.h"
@@ -17,6 +19,25 @@
 using namespace Qt::Literals::StringLiterals;
 
 std::atomic<bool> UploadThread::Enabled{false};
+
+static std::mutex holdMutex;  // guards holds, and Enabled with it
+static int holds = 0;
+
+void UploadThread::enable() {
+  const std::lock_guard lock(holdMutex);
+  if (holds == 0) Enabled = true;
+}
+
+UploadHold::UploadHold() {
+  const std::lock_guard lock(holdMutex);
+  ++holds;
+  UploadThread::Enabled = false;
+}
+
+UploadHold::~UploadHold() {
+  const std::lock_guard lock(holdMutex);
+  if (--holds == 0) UploadThread::Enabled = true;
+}
 
 namespace {
 
@@ -55,13 +76,31 @@ void recordFailure(const TaskPointer& task, const QString& reason) {
 
 /// Processes tasks until none has work. `task` is the one under way, for whoever catches an exception.
 void processTasks(TaskPointer& task) {
+  FolderWork::beginRun();
   UploaderTask::updateAllStatus();
   while (!UploadThread::stopping()) {
+    task.reset();
     task = UploaderTask::getNextTaskWithFiles();
-    if (!task || !UploadThread::Enabled || !task->PrepareToUpload()) return;
-    task->Status = UploaderTask::Processing;
-    task->ProcessFiles();
-    Problems::clear(Problem::Kind::RunFailed, task->Name);
+    if (!task || !UploadThread::Enabled) return;
+    const auto prepared = std::make_shared<bool>(false);
+    const bool answered = FolderWork::run(task, [task, prepared] {
+      *prepared = task->PrepareToUpload();
+      if (!*prepared) return;
+      task->Status = UploaderTask::Processing;
+      task->ProcessFiles();
+      // Its files stay due: it would be taken again at once, and for ever.
+      if (!task->inputIsThere() || !task->outputIsThere()) task->Status = UploaderTask::Fault;
+    });
+    if (answered && !*prepared) {
+      if (task->Status != UploaderTask::Fault) return;
+      continue;
+    }
+    if (answered) {
+      Problems::clear(Problem::Kind::RunFailed, task->Name);
+    } else {
+      task->Status = UploaderTask::Fault;
+      setEngineActivity({});
+    }
     if (!UploadThread::Enabled) return;
   }
 }
@@ -70,6 +109,7 @@ void processTasks(TaskPointer& task) {
 
 void UploadThread::Event_Run() {
   Worker& w = worker();
+  FolderWork::setLateFailure(&recordFailure);
   if (!Enabled) {
     w.busy = false;
     return;
@@ -78,6 +118,7 @@ void UploadThread::Event_Run() {
   TaskPointer task;
   try {
     processTasks(task);
+    Problems::clear(Problem::Kind::RunFailed, {});
   } catch (const std::exception& e) {
     recordFailure(task, QString::fromUtf8(e.what()));
   }
@@ -122,7 +163,7 @@ bool UploadThread::stop(int timeoutMs) {
   if (!w.ended.wait_for(lock, std::chrono::milliseconds(timeoutMs), [&w] { return !w.alive; })) return false;
   lock.unlock();
   if (w.thread.joinable()) w.thread.join();
-  return true;
+  return FolderWork::stop(timeoutMs);
 }
 
 void UploadThread::allowAgain() {

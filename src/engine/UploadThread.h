@@ -10,6 +10,8 @@ class UploadThread {
  public:
   /// The master switch of uploading; a run ends at its next test of it.
   static std::atomic<bool> Enabled;
+  /// Switches uploading on, or leaves that to the end of the last UploadHold.
+  static void enable();
 
   /// Begins a run, on the thread that the first call makes; does nothing while one is under way.
   static void Start();
@@ -23,4 +25,14 @@ class UploadThread {
 
  private:
   static void Event_Run();
+};
+
+/// Keeps uploading switched off while tasks or settings are changed; the end of the last one switches it on. Any
+/// thread.
+class UploadHold {
+ public:
+  UploadHold();
+  ~UploadHold();
+  UploadHold(const UploadHold&) = delete;
+  UploadHold& operator=(const UploadHold&) = delete;
 };

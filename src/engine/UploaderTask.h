@@ -13,8 +13,10 @@
 
 #include "engine/BatchLedger.h"
 #include "engine/DueRules.h"
+#include "platform/FolderCall.h"
 #include "platform/FolderItem.h"
 #include "platform/IoResult.h"
+#include "platform/Mount.h"
 #include "platform/RegEx.h"
 #include "platform/System.h"
 
@@ -72,15 +74,19 @@ class UploaderTask {
   void foundMoving(const ScannedFile& scanned);
   /// Ends a batch whose last good look began at `began`: stores the new date limit and the memory.
   void closeBatch(const Date& began);
+  /// Ends a batch that was broken off: stores the memory beside the limit as it was.
+  void keepLedger();
   /// Due, StillMoving, DealtWith or Older for a file that passes the rules. Any thread; doesn't touch the disk.
   [[nodiscard]] Verdict judgeVersion(const ScannedFile& scanned, double limit) const;
 
   // One pass, upload thread.
-  /// Rebuilds the folder handles, mounting where the task asks for it, and sets Status to Ready or Fault.
-  void updateStatus();
+  /// Rebuilds the folder handles, mounting where the task asks for it, and sets Status to what that gave.
+  void updateStatus() { Status = lookAtFolders(); }
+  /// The same, but only tells: Ready, or Fault when a folder is missing, not writable, or on a share that isn't there.
+  [[nodiscard]] StatusValue lookAtFolders();
   /// Makes the handle of one side anew; mounts its share if the folder is missing, unless a pause runs.
   void TryAutoMount(bool input);
-  /// Makes the error folder. False when a folder is missing or can't be written.
+  /// Makes the error folder. False when a folder is missing or can't be written; Status is Fault then if a share went.
   [[nodiscard]] bool PrepareToUpload();
   /// Sends all that is due, with a log row for each file, and stores the new date limit.
   void ProcessFiles();
@@ -94,10 +100,17 @@ class UploaderTask {
   /// Mounts at once, whether or not a pause runs; an exception of the operation is a failure. Blocks.
   [[nodiscard]] static QString mountNow(const MountRequest& request, int& errorCode);
 
+  /// False once a folder is on another file system than at the last good look, or can't be asked: its share has gone.
+  [[nodiscard]] bool inputIsThere() const;
+  [[nodiscard]] bool outputIsThere() const;  ///< true without an output folder
+  /// Takes a folder as it is, whatever should be mounted there, until something is; any thread. The caller saves
+  /// the preferences.
+  static void takeAsItIs(const QString& folderPath);
+
   /// Renames the task's file to end in ".del", so that it isn't loaded any more.
   IoResult MarkToDelete();
 
-  // The shared list, guarded; any thread.
+  // The shared list, guarded; any thread. A task that was listed before a Load stands for the one of the same file.
   [[nodiscard]] static QList<TaskPointer> allTasks();
   /// Reads the task folder anew into the list. A file that can't be read raises Problem::TaskFileSkipped.
   static void Load();
@@ -138,6 +151,8 @@ class UploaderTask {
   std::atomic<bool> Busy{false};
   std::atomic<bool> disabled{false};
   std::atomic<qint64> UploadedCount{0};
+  std::atomic<bool> leftBehind{false};    ///< work at its folders hangs, see FolderWork
+  HeldUpCalls folderCalls, keepingCalls;  ///< of the two threads that work at its folders
 
   // Of the upload thread.
   std::optional<FolderItem> inputFolder, outputFolder, ErrorFolder;
@@ -149,8 +164,12 @@ class UploaderTask {
   std::optional<RegEx> exclusionRegEx;
   [[nodiscard]] FolderScanResult listInputFolder(double above);
   BatchLedger& readLedger();
-  mutable std::mutex m_ledgerMutex;  // guards the two below
+  [[nodiscard]] bool clearedMeanwhile() const;
+  void storeLedger(std::optional<double> limit);
+  mutable std::mutex m_ledgerMutex;  // guards the three below
   BatchLedger m_ledger;
   bool m_ledgerRead = false;
+  bool m_ledgerStored = false;  // by this object
   bool m_outputSwept = false;
+  std::optional<quint64> m_inputDevice, m_outputDevice;  // at the last good look
 };

@@ -29,6 +29,9 @@ static Rank rankOf(Problem::Kind kind) {
     case Problem::Kind::ExclusionInvalid:
     case Problem::Kind::ExclusionTooCostly:
     case Problem::Kind::InputFolderUnreadable:
+    case Problem::Kind::FolderSilent:
+    case Problem::Kind::NothingMounted:
+    case Problem::Kind::ShareNotMounted:
       return Rank::OneTaskHindered;
     case Problem::Kind::PreferencesSetAside:
     case Problem::Kind::LogSetAside:
@@ -37,6 +40,12 @@ static Rank rankOf(Problem::Kind kind) {
       return Rank::NoLogin;
   }
   return Rank::ToKnow;
+}
+
+/// True for what says already why a task can't use its folders.
+static bool tellsOfFolders(Problem::Kind kind) {
+  return kind == Problem::Kind::InputFolderUnreadable || kind == Problem::Kind::FolderSilent ||
+         kind == Problem::Kind::NothingMounted;
 }
 
 /// Everything that is wrong, in words, the most serious first and the oldest first among equals.
@@ -54,7 +63,7 @@ static QStringList wrongs(const StripInput& input) {
     // Whoever has not entered a login yet doesn't miss the service.
     const bool waits = noLogin && problem.kind == Problem::Kind::ServiceUnreachable;
     found.append({waits ? Rank::WaitsForLogin : rankOf(problem.kind), VTULocalization::problemText(cleaned)});
-    if (problem.kind == Problem::Kind::InputFolderUnreadable) toldTasks << problem.subject;
+    if (tellsOfFolders(problem.kind)) toldTasks << problem.subject;
   }
   for (const QString& task : input.faultyTasks)
     if (!toldTasks.contains(task))

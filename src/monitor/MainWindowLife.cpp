@@ -1,12 +1,13 @@
 // The main window's opening and closing.
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QPointer>
 
 #include "monitor/VTUploaderMainWIndow.h"
 #include "platform/Problems.h"
 #include "storage/Preferences.h"
+#include "text/MainMenuBar.h"
 #include "text/Placeholders.h"
 #include "text/VTULocalization.h"
 #include "widgets/Messages.h"
@@ -18,11 +19,22 @@ void VTUploaderMainWIndow::showEvent(QShowEvent* event) {
   QMetaObject::invokeMethod(this, &VTUploaderMainWIndow::Event_Open, Qt::QueuedConnection);
 }
 
+void VTUploaderMainWIndow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::ActivationChange) Event_EnableMenuItems();
+}
+
+void VTUploaderMainWIndow::Event_EnableMenuItems() {
+  m_menus->FileCheckForUpdates->setEnabled(QApplication::activeWindow() == this);
+}
+
 void VTUploaderMainWIndow::Event_Open() {
   if (m_closed) return;
   if (VantryUtil::SoapUserName().trimmed().isEmpty() || VantryUtil::SoapPassword().trimmed().isEmpty()) {
     Problems::raise(Problem::Kind::NoLogin, {}, {});
-    if (m_commands.showAdminWindow) m_commands.showAdminWindow();
+    AdminOutcome outcome;  // dropped: the start-up asks the service and loads the tasks in any case
+    showAdminWindow(outcome);
+    if (m_closed) return;
   }
   StartItUp();
 }
@@ -44,11 +56,14 @@ void VTUploaderMainWIndow::StartItUp() {
   events.failed = [window](const QString& reason) {
     onMainThread(window, [reason](VTUploaderMainWIndow& w) { w.startFailed(reason); });
   };
+  m_startPending = true;
   m_commands.beginStartUp(events);
 }
 
 void VTUploaderMainWIndow::tasksLoaded() {
   if (m_closed) return;
+  m_startPending = false;
+  m_noticeEnd.setRemainingTime(0);  // it may say that the tasks are waited for
   if (m_phase == StartPhase::Connecting) m_phase = StartPhase::Checking;
   ListTasks();
   StripRefresher_Action();
@@ -56,6 +71,7 @@ void VTUploaderMainWIndow::tasksLoaded() {
 
 void VTUploaderMainWIndow::startFailed(const QString& reason) {
   if (m_closed) return;
+  m_startPending = false;
   Messages::tell(this, fillPlaceholders(VTULocalization::klStartFailed(), {reason}));
   quitWithoutAsking();
 }

@@ -5,6 +5,6 @@
 
 namespace MonitorText {
 #define VTU_CONSTANT(name, english) [[nodiscard]] QString name();
-#include "monitor/MonitorText.inc"
+#include "text/MonitorText.inc"
 #undef VTU_CONSTANT
 }  // namespace MonitorText

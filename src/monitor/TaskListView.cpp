@@ -2,9 +2,11 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QStyle>
 
 #include "monitor/TaskListDelegate.h"
 #include "monitor/TaskListModel.h"
+#include "widgets/Captions.h"
 
 TaskListView::TaskListView(TaskListModel* rows, QWidget* parent) : QTreeView(parent) {
   QFont own = font();
@@ -28,6 +30,10 @@ TaskListView::TaskListView(TaskListModel* rows, QWidget* parent) : QTreeView(par
   header()->resizeSection(TaskListModel::StatusColumn, 53);
   header()->resizeSection(TaskListModel::NameColumn, 150);
   header()->resizeSection(TaskListModel::FilesColumn, 54);
+  const int margins = 2 * header()->style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header());
+  for (const int column : {TaskListModel::StatusColumn, TaskListModel::NameColumn, TaskListModel::FilesColumn})
+    (void)fitFont(*header(), rows->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(),
+                  header()->sectionSize(column) - margins);  // longer words still are elided
 }
 
 int TaskListView::ListIndex() const {

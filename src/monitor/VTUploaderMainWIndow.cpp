@@ -6,6 +6,8 @@
 #include "engine/UploadThread.h"
 #include "monitor/MonitorText.h"
 #include "monitor/WhyNotSent.h"
+#include "text/AboutWindow.h"
+#include "text/MainMenuBar.h"
 #include "text/VTULocalization.h"
 #include "version.h"
 #include "widgets/Anchors.h"
@@ -14,19 +16,25 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+// Of what is below the menu bar.
 constexpr QSize DesignSize{650, 450};
+constexpr QSize SmallestSize{600, 216};
+constexpr QSize LargestSize{1120, 32000};
 constexpr int StatusPeriodMs = 4000;
 constexpr int StripPeriodMs = 400;
 constexpr int NoticeMs = 6000;
 
 VTUploaderMainWIndow::VTUploaderMainWIndow(MainWindowCommands commands, QWidget* parent)
-    : QMainWindow(parent), m_commands(std::move(commands)), m_model(new TaskListModel(this)) {
+    : QMainWindow(parent),
+      VersionChecker(updateExchange(), commands.updateEndpoint),
+      m_commands(std::move(commands)),
+      m_updateCheck("update-check", nullptr),
+      m_model(new TaskListModel(this)),
+      m_reload("task-reload", nullptr) {
   setObjectName(u"VTUploaderMainWIndow"_s);
   setWindowTitle(QString::fromUtf8(AppDisplayName));
   setWindowIcon(Pictures::programIcon());
-  setMinimumSize(600, 216);
-  setMaximumSize(1120, 32000);
-  resize(DesignSize);
+  buildMenus();
   setCentralWidget(new QWidget(this));
   centralWidget()->resize(DesignSize);
   buildControls();
@@ -37,6 +45,16 @@ VTUploaderMainWIndow::VTUploaderMainWIndow(MainWindowCommands commands, QWidget*
   StripRefresher_Action();
   StatusRefresher->start(StatusPeriodMs);
   StripRefresher->start(StripPeriodMs);
+}
+
+void VTUploaderMainWIndow::buildMenus() {
+  setMenuBar(m_menus = new MainMenuBar(this));
+  m_menus->ensurePolished();
+  // Where the desktop shows the menus in a place of its own the window has no bar.
+  const QSize bar(0, m_menus->isNativeMenuBar() ? 0 : m_menus->heightForWidth(DesignSize.width()));
+  setMinimumSize(SmallestSize + bar);
+  setMaximumSize(LargestSize + bar);
+  resize(DesignSize + bar);
 }
 
 void VTUploaderMainWIndow::buildControls() {
@@ -111,6 +129,12 @@ void VTUploaderMainWIndow::connectControls() {
   connect(AdminButton, &QPushButton::clicked, this, &Self::AdminButton_Action);
   connect(ShowLogbutton, &QPushButton::clicked, this, &Self::ShowLogbutton_Action);
   connect(HelpButton, &QAbstractButton::clicked, this, &Self::HelpButton_MouseUp);
+  connect(m_menus->FileAbout, &QAction::triggered, this, [this] { AboutWindow::_FileAbout_Action(this); });
+  connect(m_menus->FileCheckForUpdates, &QAction::triggered, this, &Self::_FileCheckForUpdates_Action);
+  VersionChecker.NewVersionAvailable = [this](const QString& version, const QString& url) {
+    VersionChecker_NewVersionAvailable(version, url);
+  };
+  connect(m_menus->FileQuit, &QAction::triggered, this, &QWidget::close);
 }
 
 void VTUploaderMainWIndow::ListTasks() {
@@ -154,4 +178,7 @@ StripInput VTUploaderMainWIndow::stripInput() {
   return input;
 }
 
-void VTUploaderMainWIndow::StripRefresher_Action() { BottomShadingRect->setLine(composeStrip(stripInput())); }
+void VTUploaderMainWIndow::StripRefresher_Action() {
+  BottomShadingRect->setLine(composeStrip(stripInput()));
+  loadRestoredTasksWhenIdle();
+}

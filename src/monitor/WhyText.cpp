@@ -124,7 +124,7 @@ class Sentences {
   bool m_pattern;
 };
 
-bool concerns(const Problem& problem, const QString& task) {
+bool concerns(const Problem& problem, const UploaderTask& task) {
   switch (problem.kind) {
     case Problem::Kind::NoLogin:
     case Problem::Kind::ServiceUnreachable:
@@ -133,8 +133,13 @@ bool concerns(const Problem& problem, const QString& task) {
     case Problem::Kind::UploadFailed:
     case Problem::Kind::RunFailed:
     case Problem::Kind::InputFolderUnreadable:
+    case Problem::Kind::FolderSilent:
+    case Problem::Kind::NothingMounted:
     case Problem::Kind::ExclusionInvalid:
-      return problem.subject == task;
+      return problem.subject == task.Name;
+    case Problem::Kind::ShareNotMounted:
+      return (task.AutoMountInputFolder && problem.subject == shareForDisplay(task.inputfolderURL)) ||
+             (task.autoMountOutputFolder && problem.subject == shareForDisplay(task.outputFolderUrl));
     case Problem::Kind::ExclusionTooCostly:
     case Problem::Kind::TaskFileSkipped:
     case Problem::Kind::TaskFolderUnreadable:
@@ -168,7 +173,7 @@ WhyAnswer whyAnswer(const FileExplanation& explanation, const UploaderTask& task
 
   if (!enabled) answer.lines.append({WhyLine::Tone::Note, klWhyPaused()});
   for (const Problem& problem : problems)
-    if (concerns(problem, task.Name))
+    if (concerns(problem, task))
       answer.lines.append({WhyLine::Tone::Note, fillPlaceholders(klWhyReported(), {problemText(problem)})});
 
   if (reasons == 0)

@@ -7,20 +7,48 @@
 #include <cerrno>
 #include <cstdio>
 
-int FileOps::open(const char* path, int flags, mode_t mode) { return ::open(path, flags, mode); }
-ssize_t FileOps::read(int fd, void* buffer, size_t size) { return ::read(fd, buffer, size); }
-ssize_t FileOps::write(int fd, const void* buffer, size_t size) { return ::write(fd, buffer, size); }
+#include "platform/FolderCall.h"
+
+int FileOps::open(const char* path, int flags, mode_t mode) {
+  const FolderCall call;
+  return ::open(path, flags, mode);
+}
+ssize_t FileOps::read(int fd, void* buffer, size_t size) {
+  const FolderCall call;
+  return ::read(fd, buffer, size);
+}
+ssize_t FileOps::write(int fd, const void* buffer, size_t size) {
+  const FolderCall call;
+  return ::write(fd, buffer, size);
+}
 ssize_t FileOps::copyRange(int from, int to, size_t size) {
+  const FolderCall call;
   return ::copy_file_range(from, nullptr, to, nullptr, size, 0);
 }
-int FileOps::sync(int fd) { return ::fsync(fd); }
-int FileOps::close(int fd) { return ::close(fd); }
-int FileOps::rename(const char* from, const char* to) { return ::rename(from, to); }
-int FileOps::unlink(const char* path) { return ::unlink(path); }
+int FileOps::sync(int fd) {
+  const FolderCall call;
+  return ::fsync(fd);
+}
+int FileOps::close(int fd) {
+  const FolderCall call;
+  return ::close(fd);
+}
+int FileOps::rename(const char* from, const char* to) {
+  const FolderCall call;
+  return ::rename(from, to);
+}
+int FileOps::unlink(const char* path) {
+  const FolderCall call;
+  return ::unlink(path);
+}
 int FileOps::renameExclusive(const char* from, const char* to) {
+  const FolderCall call;
   return ::renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE);
 }
-int FileOps::link(const char* from, const char* to) { return ::linkat(AT_FDCWD, from, AT_FDCWD, to, 0); }
+int FileOps::link(const char* from, const char* to) {
+  const FolderCall call;
+  return ::linkat(AT_FDCWD, from, AT_FDCWD, to, 0);
+}
 
 int FileOps::renameNoReplace(const char* from, const char* to) {
   if (renameExclusive(from, to) == 0) return 0;
@@ -39,6 +67,7 @@ int FileOps::renameNoReplace(const char* from, const char* to) {
 
 // Takes the free name with an empty file or folder of our own first: nobody else's can then be replaced.
 int FileOps::renameOntoReserved(const char* from, const char* to) {
+  const FolderCall call;
   struct stat info {};
   if (::lstat(from, &info) != 0) return -1;
   const bool folder = S_ISDIR(info.st_mode);

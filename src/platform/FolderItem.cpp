@@ -7,15 +7,19 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdlib>
 #include <memory>
 
 #include "platform/FileOps.h"
+#include "platform/FolderCall.h"
+#include "platform/Reasons.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 std::optional<struct stat> lookAt(const QByteArray& path) {
+  const FolderCall call;
   struct stat info {};
   if (::stat(path.constData(), &info) != 0) return std::nullopt;
   return info;
@@ -42,6 +46,7 @@ QByteArray nativeName(const QString& name) {
 }
 
 bool accessible(const QByteArray& path, int modes) {
+  const FolderCall call;
   return ::faccessat(AT_FDCWD, path.constData(), modes, AT_EACCESS) == 0;
 }
 
@@ -89,6 +94,7 @@ FolderItem FolderItem::Parent() const {
 }
 
 QList<FolderItem> FolderItem::Items() const {
+  const FolderCall call;
   const std::unique_ptr<DIR, int (*)(DIR*)> folder(::opendir(m_path.constData()), &::closedir);
   if (!folder) return {};
   QList<QByteArray> names;
@@ -118,6 +124,17 @@ bool FolderItem::IsReadable() const { return accessible(m_path, Directory() ? R_
 // The kernel's answer covers what modes don't tell: a read-only file system and, for root, an immutable folder.
 bool FolderItem::IsWriteable() const { return accessible(m_path, Directory() ? W_OK | X_OK : W_OK); }
 
+std::optional<quint64> FolderItem::Device() const {
+  const auto info = lookAt(m_path);
+  return info ? std::optional<quint64>(info->st_dev) : std::nullopt;
+}
+
+std::optional<QByteArray> FolderItem::WithoutLinks() const {
+  const FolderCall call;
+  const std::unique_ptr<char, decltype(&std::free)> path(::realpath(m_path.constData(), nullptr), &std::free);
+  return path ? std::optional<QByteArray>(path.get()) : std::nullopt;
+}
+
 qint64 FolderItem::Length() const {
   const auto info = lookAt(m_path);
   return info ? qint64{info->st_size} : 0;
@@ -129,20 +146,29 @@ Date FolderItem::ModificationDate() const {
   return Date::fromNanoseconds(qint64{info->st_mtim.tv_sec} * 1'000'000'000 + info->st_mtim.tv_nsec);
 }
 
+IoResult FolderItem::setModifiedNow(const Date& now) const {
+  constexpr qint64 second = 1'000'000'000;
+  const timespec ours[2] = {{0, UTIME_OMIT}, {now.nanoseconds() / second, now.nanoseconds() % second}};
+  if (::utimensat(AT_FDCWD, m_path.constData(), ours, 0) == 0) return {};
+  if (errno == EPERM && ::utimensat(AT_FDCWD, m_path.constData(), nullptr, 0) == 0) return {};
+  return IoResult::failure(errno, fillPlaceholders(Reasons::klSettingDate(), {NativePath()}));
+}
+
 QByteArray FolderItem::nameBytes() const { return m_path.mid(m_path.lastIndexOf('/') + 1); }
 
 QString FolderItem::Name() const { return m_path == "/" ? u"/"_s : QString::fromUtf8(nameBytes()); }
 
 IoResult FolderItem::setName(const QString& name) {
+  const FolderCall call;
   const FolderItem renamed = Parent().Child(name);
   if (renamed == *this) return {};
   struct stat info {};
   // A link whose target is gone is no file, but it has a name to change.
   if (::lstat(m_path.constData(), &info) == 0) {
     if (FileOps::real().renameNoReplace(m_path.constData(), renamed.m_path.constData()) != 0)
-      return IoResult::failure(errno, u"renaming "_s + Name() + u" to "_s + renamed.Name());
+      return IoResult::failure(errno, fillPlaceholders(Reasons::klRenamingTo(), {Name(), renamed.Name()}));
   } else if (errno != ENOENT && errno != ENOTDIR) {
-    return IoResult::failure(errno, u"renaming "_s + Name());
+    return IoResult::failure(errno, fillPlaceholders(Reasons::klRenaming(), {Name()}));
   }
   m_path = renamed.m_path;
   return {};
@@ -151,18 +177,20 @@ IoResult FolderItem::setName(const QString& name) {
 QString FolderItem::NativePath() const { return QString::fromUtf8(m_path); }
 
 IoResult FolderItem::Delete() const {
+  const FolderCall call;
   if (::unlink(m_path.constData()) == 0) return {};
   int error = errno;
   if (error == EISDIR) {
     if (::rmdir(m_path.constData()) == 0) return {};
     error = errno;
   }
-  return IoResult::failure(error, u"deleting "_s + NativePath());
+  return IoResult::failure(error, fillPlaceholders(Reasons::klDeleting(), {NativePath()}));
 }
 
 IoResult FolderItem::CreateAsFolder() const {
+  const FolderCall call;
   if (::mkdir(m_path.constData(), 0777) == 0) return {};
   const int error = errno;
   if (error == EEXIST && Directory()) return {};
-  return IoResult::failure(error, u"making the folder "_s + NativePath());
+  return IoResult::failure(error, fillPlaceholders(Reasons::klMakingFolder(), {NativePath()}));
 }

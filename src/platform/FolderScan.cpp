@@ -9,6 +9,9 @@
 #include <cerrno>
 #include <memory>
 
+#include "platform/FolderCall.h"
+#include "platform/Reasons.h"
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -19,7 +22,7 @@ constexpr size_t kBufferSize = size_t{256} * 1024;
 class OpenFolder {
  public:
   explicit OpenFolder(const FolderItem& folder)
-      : m_fd(::open(folder.bytes().constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {}
+      : m_fd(opened(folder.bytes())) {}
   ~OpenFolder() {
     if (m_fd >= 0) ::close(m_fd);
   }
@@ -28,8 +31,17 @@ class OpenFolder {
   [[nodiscard]] int fd() const { return m_fd; }
 
  private:
+  static int opened(const QByteArray& path) {
+    const FolderCall call;
+    return ::open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  }
   int m_fd;
 };
+
+ssize_t nextEntries(int fd, char* buffer) {
+  const FolderCall call;
+  return ::getdents64(fd, buffer, kBufferSize);
+}
 
 bool canBePlainFile(unsigned char type) { return type == DT_REG || type == DT_LNK || type == DT_UNKNOWN; }
 
@@ -46,7 +58,7 @@ class Scan {
     if (m_open.fd() < 0) fail(errno);
     const auto buffer = std::make_unique_for_overwrite<char[]>(kBufferSize);
     while (m_result.result.ok()) {
-      const ssize_t filled = ::getdents64(m_open.fd(), buffer.get(), kBufferSize);
+      const ssize_t filled = nextEntries(m_open.fd(), buffer.get());
       if (filled < 0) fail(errno);
       if (filled <= 0) break;
       if (!takeEntries(buffer.get(), filled)) break;
@@ -66,7 +78,8 @@ class Scan {
 
  private:
   void fail(int error) {
-    if (m_result.result.ok()) m_result.result = IoResult::failure(error, u"listing "_s + m_folder.NativePath());
+    if (m_result.result.ok())
+      m_result.result = IoResult::failure(error, fillPlaceholders(Reasons::klListing(), {m_folder.NativePath()}));
   }
 
   bool takeEntries(const char* entries, ssize_t filled) {
@@ -93,6 +106,7 @@ class Scan {
   }
 
   void takeFile(const char* name) {
+    const FolderCall call;
     struct stat info {};
     if (::fstatat(m_open.fd(), name, &info, 0) != 0) {
       const int error = errno;

@@ -1,8 +1,267 @@
-#include <cerrno>
+// GIO comes first: Qt makes a macro of `signals`.
+#include <gio/gio.h>
 
+#include "platform/Mount.h"
+
+#include <dirent.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <memory>
+
+#include "platform/FileCipher.h"
 #include "platform/System.h"
 
-QString mountShare(const MountRequest&, int& errorCode) {
-  errorCode = ENOTSUP;
-  return {};
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+using SteadyClock = std::chrono::steady_clock;
+constexpr guint LookEveryMs = 100;
+constexpr auto CancelLimit = std::chrono::seconds(5);  // for the service to say that it has given up
+constexpr auto FolderLimit = std::chrono::seconds(3);  // from the mount to its folder's being there
+
+struct Unref {
+  void operator()(gpointer object) const { g_object_unref(object); }
+};
+template <typename T>
+using Owned = std::unique_ptr<T, Unref>;
+
+/// One mounting. Held by the caller and by the callback, which may come after the caller has left.
+struct Mounting {
+  QByteArray login, password;
+  bool asked = false;
+  int refusal = 0;  // why we broke it off, in place of what the service makes of it
+  bool ended = false;
+  int error = 0;
+
+  Mounting() = default;
+  ~Mounting() { wipe(password); }
+  Mounting(const Mounting&) = delete;
+  Mounting& operator=(const Mounting&) = delete;
+};
+using MountingPointer = std::shared_ptr<Mounting>;
+
+/// A main context of this thread's own, so that callbacks come here and not to a loop that nobody runs.
+class OwnContext {
+ public:
+  OwnContext() : m_context(g_main_context_new()) { g_main_context_push_thread_default(m_context); }
+  ~OwnContext() {
+    // What the bus still has to release for us waits here, and would otherwise be kept for good.
+    while (g_main_context_iteration(m_context, FALSE)) {
+    }
+    g_main_context_pop_thread_default(m_context);
+    g_main_context_unref(m_context);
+  }
+  OwnContext(const OwnContext&) = delete;
+  OwnContext& operator=(const OwnContext&) = delete;
+
+  /// Runs what is due until `done` or until `deadline`; wakes ten times a second.
+  template <typename Done>
+  void runUntil(SteadyClock::time_point deadline, const Done& done) const {
+    GSource* const beat = g_timeout_source_new(LookEveryMs);
+    g_source_set_callback(
+        beat, [](gpointer) -> gboolean { return G_SOURCE_CONTINUE; }, nullptr, nullptr);
+    g_source_attach(beat, m_context);
+    while (!done() && SteadyClock::now() < deadline) g_main_context_iteration(m_context, TRUE);
+    g_source_destroy(beat);
+    g_source_unref(beat);
+  }
+
+ private:
+  GMainContext* m_context;
+};
+
+/// Some parts of the mount service tell what failed only in the words of the system, at the end of their own.
+int codeInWords(const char* message) {
+  constexpr std::pair<int, int> known[] = {
+      // EINVAL is what a name that nobody knows gives.
+      {ECONNREFUSED, MountError::Unreachable}, {EHOSTUNREACH, MountError::Unreachable},
+      {ENETUNREACH, MountError::Unreachable},  {EINVAL, MountError::Unreachable},
+      {EHOSTDOWN, MountError::Unreachable},    {ECONNABORTED, MountError::Unreachable},
+      {ECONNRESET, MountError::Unreachable},   {ETIMEDOUT, MountError::TimedOut},
+      {ENOENT, MountError::NotThere},          {ENODEV, MountError::NotThere},
+      {EACCES, MountError::LoginRefused},      {EPERM, MountError::LoginRefused}};
+  for (const auto& [number, code] : known)
+    if (g_str_has_suffix(message, g_strerror(number))) return code;
+  return EIO;
+}
+
+int codeOf(const GError* error) {
+  if (error->domain != G_IO_ERROR) return error->domain == G_DBUS_ERROR ? MountError::NoSession : EIO;
+  switch (error->code) {
+    case G_IO_ERROR_ALREADY_MOUNTED:
+      return 0;
+    case G_IO_ERROR_PERMISSION_DENIED:
+    case G_IO_ERROR_FAILED_HANDLED:
+    case G_IO_ERROR_PROXY_AUTH_FAILED:
+      return MountError::LoginRefused;
+    case G_IO_ERROR_NOT_FOUND:
+    case G_IO_ERROR_NOT_DIRECTORY:
+      return MountError::NotThere;
+    case G_IO_ERROR_HOST_NOT_FOUND:
+    case G_IO_ERROR_HOST_UNREACHABLE:
+    case G_IO_ERROR_NETWORK_UNREACHABLE:
+    case G_IO_ERROR_CONNECTION_REFUSED:
+    case G_IO_ERROR_NOT_CONNECTED:
+    case G_IO_ERROR_BROKEN_PIPE:
+      return MountError::Unreachable;
+    case G_IO_ERROR_TIMED_OUT:
+      return MountError::TimedOut;
+    case G_IO_ERROR_CANCELLED:
+      return MountError::Cancelled;
+    case G_IO_ERROR_NOT_SUPPORTED:
+    case G_IO_ERROR_INVALID_ARGUMENT:
+    case G_IO_ERROR_INVALID_FILENAME:
+    case G_IO_ERROR_NOT_MOUNTED:
+    case G_IO_ERROR_NOT_MOUNTABLE_FILE:
+      return MountError::NotSupported;
+    case G_IO_ERROR_CLOSED:
+    case G_IO_ERROR_DBUS_ERROR:
+      return MountError::NoSession;
+    default:
+      return codeInWords(error->message);
+  }
+}
+
+void answerLogin(GMountOperation* operation, const char*, const char*, const char*, GAskPasswordFlags wanted,
+                 gpointer data) {
+  Mounting& mounting = **static_cast<MountingPointer*>(data);
+  if (mounting.asked) {  // asked again: what we gave was wrong
+    mounting.refusal = MountError::LoginRefused;
+    return g_mount_operation_reply(operation, G_MOUNT_OPERATION_ABORTED);
+  }
+  mounting.asked = true;
+  if (mounting.login.isEmpty() && (wanted & G_ASK_PASSWORD_ANONYMOUS_SUPPORTED)) {
+    g_mount_operation_set_anonymous(operation, TRUE);
+    return g_mount_operation_reply(operation, G_MOUNT_OPERATION_HANDLED);
+  }
+  QByteArray user = mounting.login;
+  // Where no domain is asked for, what looks like one is part of the name.
+  if (wanted & G_ASK_PASSWORD_NEED_DOMAIN) {
+    QByteArray domain;
+    const qsizetype backslash = user.indexOf('\\'), at = user.lastIndexOf('@');
+    if (backslash >= 0) {
+      domain = user.left(backslash);
+      user.remove(0, backslash + 1);
+    } else if (at >= 0) {
+      domain = user.mid(at + 1);
+      user.truncate(at);
+    }
+    if (!domain.isEmpty()) g_mount_operation_set_domain(operation, domain.constData());
+  }
+  if (wanted & G_ASK_PASSWORD_NEED_USERNAME) g_mount_operation_set_username(operation, user.constData());
+  if (wanted & G_ASK_PASSWORD_NEED_PASSWORD) g_mount_operation_set_password(operation, mounting.password.constData());
+  g_mount_operation_set_password_save(operation, G_PASSWORD_SAVE_NEVER);
+  g_mount_operation_reply(operation, G_MOUNT_OPERATION_HANDLED);
+}
+
+void declineQuestion(GMountOperation* operation, const char*, const char**, gpointer data) {
+  (*static_cast<MountingPointer*>(data))->refusal = MountError::Question;
+  g_mount_operation_reply(operation, G_MOUNT_OPERATION_ABORTED);
+}
+
+void mounted(GObject* file, GAsyncResult* result, gpointer data) {
+  const std::unique_ptr<MountingPointer> mounting(static_cast<MountingPointer*>(data));
+  GError* error = nullptr;
+  if (!g_file_mount_enclosing_volume_finish(G_FILE(file), result, &error)) {
+    (*mounting)->error = codeOf(error);
+    // The service's words name the address and never the login.
+    if ((*mounting)->error != 0)
+      System::DebugLog(u"Vantry Uploader - mounting failed: "_s + QString::fromUtf8(error->message));
+    g_clear_error(&error);
+  }
+  (*mounting)->ended = true;
+}
+
+void releaseMounting(gpointer data, GClosure*) { delete static_cast<MountingPointer*>(data); }
+
+Owned<GMountOperation> makeOperation(const MountingPointer& mounting) {
+  Owned<GMountOperation> operation(g_mount_operation_new());
+  const auto connect = [&](const char* signal, GCallback handler) {
+    g_signal_connect_data(operation.get(), signal, handler, new MountingPointer(mounting), &releaseMounting,
+                          G_CONNECT_DEFAULT);
+  };
+  connect("ask-password", G_CALLBACK(answerLogin));
+  connect("ask-question", G_CALLBACK(declineQuestion));
+  return operation;
+}
+
+/// The mount service is reached over the session bus, which must not take the program with it when it ends.
+bool haveSession(GCancellable* cancellable) {
+  const bool named = qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS");
+  const QByteArray socket = qgetenv("XDG_RUNTIME_DIR") + "/bus";
+  if (!named && ::access(socket.constData(), F_OK) != 0) return false;  // GIO would start a bus of its own
+  GDBusConnection* const bus = g_bus_get_sync(G_BUS_TYPE_SESSION, cancellable, nullptr);
+  if (!bus) return false;
+  g_dbus_connection_set_exit_on_close(bus, FALSE);
+  static GDBusConnection* const kept = bus;  // the mount service's library asks for the same one
+  const bool open = !g_dbus_connection_is_closed(bus);
+  if (bus != kept) g_object_unref(bus);
+  return open;
+}
+
+QByteArray localPath(GFile* file) {
+  const std::unique_ptr<char, decltype(&g_free)> path(g_file_get_path(file), &g_free);
+  return QByteArray(path.get());
+}
+
+}  // namespace
+
+QString shareForDisplay(const QString& url) {
+  const qsizetype server = url.indexOf(u"//"_s) + 2;
+  if (server < 2) return url.trimmed();
+  const qsizetype end = url.indexOf(u'/', server);
+  const qsizetype at = url.lastIndexOf(u'@', end < 0 ? -1 : end);
+  return (at < server ? url : url.left(server) + url.mid(at + 1)).trimmed();
+}
+
+QString mountShare(const MountRequest& request, int& errorCode, int limitMs) {
+  const auto deadline = SteadyClock::now() + std::chrono::milliseconds(limitMs);
+  const OwnContext context;
+  const Owned<GCancellable> cancellable(g_cancellable_new());
+  errorCode = MountError::NoSession;
+  if (!haveSession(cancellable.get())) return {};
+
+  const auto mounting = std::make_shared<Mounting>();
+  mounting->login = request.userName.toUtf8();
+  mounting->password = request.password.toUtf8();
+  const Owned<GFile> file(g_file_new_for_uri(QString(request.url).replace(u' ', u"%20"_s).toUtf8().constData()));
+  {
+    const Owned<GMountOperation> operation = makeOperation(mounting);
+    g_file_mount_enclosing_volume(file.get(), G_MOUNT_MOUNT_NONE, operation.get(), cancellable.get(), &mounted,
+                                  new MountingPointer(mounting));
+    const auto cancelled = [&request] { return request.cancelled && request.cancelled(); };
+    context.runUntil(deadline, [&] { return mounting->ended || cancelled(); });
+    if (!mounting->ended) {
+      mounting->refusal = cancelled() ? MountError::Cancelled : MountError::TimedOut;
+      g_cancellable_cancel(cancellable.get());
+      context.runUntil(SteadyClock::now() + CancelLimit, [&] { return mounting->ended; });
+    }
+  }
+  errorCode = mounting->error != 0 || !mounting->ended ? mounting->refusal : 0;
+  if (errorCode == 0) errorCode = mounting->error;
+  if (errorCode != 0) return {};
+
+  // The folder appears a moment behind the mount.
+  QByteArray path;
+  int error = 0;
+  const auto there = [&] {
+    path = localPath(file.get());
+    if (path.isEmpty()) return false;
+    // Listed and not only looked at: what is known of an earlier mount at this place may be told for a second.
+    const std::unique_ptr<DIR, int (*)(DIR*)> folder(::opendir(path.constData()), &::closedir);
+    errno = folder ? 0 : errno;
+    if (folder) (void)::readdir(folder.get());  // an empty folder gives nothing, and no error
+    error = errno;
+    return error == 0;
+  };
+  context.runUntil(SteadyClock::now() + FolderLimit, there);
+  if (path.isEmpty())
+    errorCode = MountError::NoFolder;
+  else if (error == ENOENT)
+    errorCode = MountError::NotThere;
+  else if (error != 0)
+    errorCode = error == EACCES ? MountError::LoginRefused : MountError::Unreachable;
+  return errorCode == 0 ? QString::fromUtf8(path) : QString();
 }

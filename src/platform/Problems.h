@@ -18,6 +18,9 @@ struct Problem {
     ExclusionInvalid,       ///< subject: task; detail: the pattern's error
     ExclusionTooCostly,     ///< subject: task; detail: the file kept back
     InputFolderUnreadable,  ///< subject: task; detail: why
+    FolderSilent,           ///< subject: task
+    NothingMounted,         ///< subject: task; detail: the mount point that stands bare
+    ShareNotMounted,        ///< subject: the share's address; detail: why
     CopyFailed,             ///< subject: task; detail: file and why
     UploadFailed,           ///< subject: task; detail: file and why
     RunFailed,              ///< subject: task; detail: the exception's words

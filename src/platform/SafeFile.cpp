@@ -8,9 +8,11 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
-#include <memory>
+#include <map>
 
+#include "platform/FolderCall.h"
 #include "platform/HiddenName.h"
+#include "platform/Reasons.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -24,6 +26,16 @@ auto again(Call call) {
   auto result = call();
   while (result < 0 && errno == EINTR) result = call();
   return result;
+}
+
+int statusOf(int fd, struct stat& info) {
+  const FolderCall call;
+  return ::fstat(fd, &info);
+}
+
+int statusOfName(const char* path, struct stat& info) {
+  const FolderCall call;
+  return ::lstat(path, &info);
 }
 
 FileVersion versionFrom(const struct stat& info) {
@@ -108,9 +120,10 @@ class HiddenFile {
     return true;
   }
 
-  [[nodiscard]] bool finish() {
-    return again([&] { return m_ops.sync(fd()); }) == 0 && m_file.close();
+  [[nodiscard]] bool flush() {
+    return again([&] { return m_ops.sync(fd()); }) == 0;
   }
+  [[nodiscard]] bool finish() { return flush() && m_file.close(); }
 
   [[nodiscard]] bool replace(const FolderItem& target) {
     return taken(m_ops.rename(m_path.constData(), target.bytes().constData()));
@@ -135,7 +148,7 @@ class HiddenFile {
 // A settings file may be a link to where a person keeps it: the link stays and its target is replaced.
 std::optional<FolderItem> realTarget(const FolderItem& target, int& error) {
   struct stat info {};
-  if (::lstat(target.bytes().constData(), &info) != 0 || S_ISREG(info.st_mode)) return target;
+  if (statusOfName(target.bytes().constData(), info) != 0 || S_ISREG(info.st_mode)) return target;
   const std::unique_ptr<char, decltype(&std::free)> path(::realpath(target.bytes().constData(), nullptr), &std::free);
   error = errno;
   if (!path) return std::nullopt;
@@ -150,14 +163,14 @@ bool rewind(int fd) { return ::lseek(fd, 0, SEEK_SET) == 0; }
 // Fills `to` with at most `size` bytes of `from`, inside the kernel where it can. Gives 0 or an errno.
 int copyInKernel(FileOps& ops, int from, HiddenFile& to, qint64 size) {
   for (qint64 left = size; left > 0;) {
-    const size_t piece = static_cast<size_t>(std::min<qint64>(left, 64 << 20));
+    const size_t piece = static_cast<size_t>(std::min<qint64>(left, 8 << 20));
     const ssize_t done = again([&] { return ops.copyRange(from, to.fd(), piece); });
     if (done < 0) return errno;
     if (done == 0) return ENODATA;
     left -= done;
   }
   struct stat info {};
-  if (::fstat(to.fd(), &info) != 0) return errno;
+  if (statusOf(to.fd(), info) != 0) return errno;
   // Some network file systems report bytes that never arrive.
   return info.st_size == size ? 0 : ENODATA;
 }
@@ -186,6 +199,7 @@ int copyContent(FileOps& ops, int from, HiddenFile& to, qint64 size) {
 // Where files belong to another user than the one who writes them, as on some shares, dates can't be set: then the
 // copy keeps its own, for a copy without its date is worth more than none.
 int keepDate(int fd, const struct stat& source) {
+  const FolderCall call;
   const timespec times[2] = {source.st_atim, source.st_mtim};
   if (::futimens(fd, times) == 0) return 0;
   return errno == EPERM || errno == EACCES || errno == EOPNOTSUPP || errno == ENOSYS ? 0 : errno;
@@ -193,7 +207,7 @@ int keepDate(int fd, const struct stat& source) {
 
 // Gives 0 when the open source is still a plain file in that version.
 int stillIn(const FileVersion& version, int fd, struct stat& info) {
-  if (::fstat(fd, &info) != 0) return errno;
+  if (statusOf(fd, info) != 0) return errno;
   if (!S_ISREG(info.st_mode)) return S_ISDIR(info.st_mode) ? EISDIR : EINVAL;
   return versionFrom(info) == version ? 0 : ESTALE;
 }
@@ -204,43 +218,72 @@ int fillCopy(FileOps& ops, int from, HiddenFile& to, const FileVersion& version)
   if (const int error = stillIn(version, from, info)) return error;
   if (const int error = keepDate(to.fd(), info)) return error;
   struct stat written {};
-  if (::fstat(to.fd(), &written) != 0) return errno;
-  if (written.st_size != version.size) return EIO;
-  return to.finish() ? 0 : errno;
+  if (statusOf(to.fd(), written) != 0) return errno;
+  return written.st_size == version.size ? 0 : EIO;
 }
 
 }  // namespace
 
 std::optional<FileVersion> versionOf(const FolderItem& file) {
+  const FolderCall call;
   struct stat info {};
   if (::stat(file.bytes().constData(), &info) != 0 || !S_ISREG(info.st_mode)) return std::nullopt;
   return versionFrom(info);
 }
 
-IoResult writeFileSafely(const FolderItem& wanted, const QByteArray& content, FileOps& ops) {
-  const QString doing = u"writing "_s + wanted.NativePath();
+bool isGone(const FolderItem& file) {
+  const FolderCall call;
+  struct stat info {};
+  if (::stat(file.bytes().constData(), &info) == 0) return !S_ISREG(info.st_mode);
+  return errno == ENOENT || errno == ENOTDIR || errno == ELOOP;
+}
+
+// `fill` writes the content; it gives 0 or the errno that stopped it.
+static IoResult replaceFile(const FolderItem& wanted, mode_t mode, const std::function<int(HiddenFile&)>& fill,
+                            FileOps& ops) {
+  const QString doing = fillPlaceholders(Reasons::klWriting(), {wanted.NativePath()});
   int linkError = 0;
   const auto target = realTarget(wanted, linkError);
   if (!target) return IoResult::failure(linkError, doing);
   FolderFlush folder(ops, target->Parent());
   if (folder.openError()) return IoResult::failure(folder.openError(), doing);
-  HiddenFile file(ops, target->Parent(), 0600);
+  HiddenFile file(ops, target->Parent(), mode);
   if (file.error()) return IoResult::failure(file.error(), doing);
-  if (!file.write(content.constData(), static_cast<size_t>(content.size())) || !file.finish() || !file.replace(*target))
-    return IoResult::failure(errno, doing);
+  if (const int error = fill(file)) return IoResult::failure(error, doing);
+  if (!file.finish() || !file.replace(*target)) return IoResult::failure(errno, doing);
   if (const int error = folder.flush())
-    return IoResult::failure(error, u"flushing the folder of "_s + wanted.NativePath());
+    return IoResult::failure(error, fillPlaceholders(Reasons::klFlushingFolder(), {wanted.NativePath()}));
   return {};
 }
 
+IoResult writeFileSafely(const FolderItem& target, const QByteArray& content, FileOps& ops) {
+  const auto fill = [&](HiddenFile& file) {
+    return file.write(content.constData(), static_cast<size_t>(content.size())) ? 0 : errno;
+  };
+  return replaceFile(target, 0600, fill, ops);
+}
+
+IoResult writeFileInPieces(const FolderItem& target, const NextPiece& next, FileOps& ops) {
+  const auto fill = [&](HiddenFile& file) {
+    for (;;) {
+      const auto piece = next();
+      if (!piece) return ECANCELED;
+      // The flush takes the longest, so the writer is asked once more behind it.
+      if (piece->isEmpty()) return !file.flush() ? errno : next() ? 0 : ECANCELED;
+      if (!file.write(piece->constData(), static_cast<size_t>(piece->size()))) return errno;
+    }
+  };
+  return replaceFile(target, 0666, fill, ops);
+}
+
 IoResult readWholeFile(const FolderItem& file, qint64 limit, QByteArray& content) {
-  const QString doing = u"reading "_s + file.NativePath();
+  const QString doing = fillPlaceholders(Reasons::klReading(), {file.NativePath()});
   content.clear();
   FileOps& ops = FileOps::real();
   const Descriptor source(ops, file.bytes(), kOpenToRead);
   if (!source.isOpen()) return IoResult::failure(errno, doing);
   struct stat info {};
-  if (::fstat(source.fd(), &info) != 0) return IoResult::failure(errno, doing);
+  if (statusOf(source.fd(), info) != 0) return IoResult::failure(errno, doing);
   if (!S_ISREG(info.st_mode)) return IoResult::failure(S_ISDIR(info.st_mode) ? EISDIR : EINVAL, doing);
   if (info.st_size > limit) return IoResult::failure(EFBIG, doing);
   QByteArray read;
@@ -259,31 +302,95 @@ IoResult readWholeFile(const FolderItem& file, qint64 limit, QByteArray& content
   return {};
 }
 
-IoResult copyFileSafely(const FolderItem& source, const FileVersion& version, const FolderItem& target, FileOps& ops) {
-  const QString doing = u"copying "_s + source.NativePath() + u" to "_s + target.NativePath();
+struct SafeCopy::Steps {
+  Steps(FileOps& ops, const FolderItem& target) : folder(ops, target), copy(ops, target, 0666) {}
+  FolderFlush folder;
+  HiddenFile copy;
+};
+
+SafeCopy::SafeCopy(const FolderItem& source, const FileVersion& version, const FolderItem& folder, FileOps& ops)
+    : m_ops(ops),
+      m_folder(folder),
+      m_doing(fillPlaceholders(Reasons::klCopying(), {source.NativePath(), folder.NativePath()})) {
   const Descriptor from(ops, source.bytes(), kOpenToRead);
-  if (!from.isOpen()) return IoResult::failure(errno, doing);
   struct stat info {};
-  if (const int error = stillIn(version, from.fd(), info)) return IoResult::failure(error, doing);
-  // Only saves the work: the rename below is what never replaces a file.
-  if (::lstat(target.bytes().constData(), &info) == 0) return IoResult::failure(EEXIST, doing);
-  FolderFlush folder(ops, target.Parent());
-  if (folder.openError()) return IoResult::failure(folder.openError(), doing);
-  HiddenFile copy(ops, target.Parent(), 0666);
-  if (copy.error()) return IoResult::failure(copy.error(), doing);
-  if (const int error = fillCopy(ops, from.fd(), copy, version)) return IoResult::failure(error, doing);
-  if (!copy.takeFreeName(target)) return IoResult::failure(errno, doing);
-  if (const int error = folder.flush()) {
-    ops.unlink(target.bytes().constData());
-    return IoResult::failure(error, doing);
+  if (!from.isOpen()) {
+    fail(errno);
+  } else if (const int error = stillIn(version, from.fd(), info)) {
+    fail(error);
+  } else {
+    m_steps = std::make_unique<Steps>(ops, folder);
+    if (m_steps->folder.openError())
+      fail(m_steps->folder.openError());
+    else if (m_steps->copy.error())
+      fail(m_steps->copy.error());
+    else if (const int unfilled = fillCopy(ops, from.fd(), m_steps->copy, version))
+      fail(unfilled);
   }
-  return {};
+}
+
+SafeCopy::~SafeCopy() = default;
+
+bool SafeCopy::fail(int error) {
+  m_state = IoResult::failure(error, m_doing);
+  m_steps.reset();
+  return false;
+}
+
+void SafeCopy::sync() {
+  if (m_state.ok() && !m_steps->copy.finish()) fail(errno);
+}
+
+bool SafeCopy::place(const FolderItem& target) {
+  if (!m_steps) return false;
+  m_state = {};
+  if (m_steps->copy.takeFreeName(target)) {
+    m_placed = target;
+    return true;
+  }
+  m_state = IoResult::failure(errno, m_doing);
+  return false;
+}
+
+void SafeCopy::flushFolders(std::span<SafeCopy* const> copies) {
+  std::map<QByteArray, int> flushed;
+  for (SafeCopy* const copy : copies) {
+    if (!copy->m_placed) continue;
+    const auto [folder, isNew] = flushed.try_emplace(copy->m_folder.bytes(), 0);
+    if (isNew) folder->second = copy->m_steps->folder.flush();
+    if (folder->second == 0) continue;
+    copy->m_ops.unlink(copy->m_placed->bytes().constData());
+    copy->m_placed.reset();
+    copy->fail(folder->second);
+  }
+}
+
+IoResult copyFileSafely(const FolderItem& source, const FileVersion& version, const FolderItem& target, FileOps& ops) {
+  struct stat info {};
+  // Only saves the work: placing it is what never replaces a file.
+  if (statusOfName(target.bytes().constData(), info) == 0)
+    return IoResult::failure(EEXIST,
+                             fillPlaceholders(Reasons::klCopying(), {source.NativePath(), target.NativePath()}));
+  SafeCopy copy(source, version, target.Parent(), ops);
+  copy.sync();
+  SafeCopy* const placed = &copy;
+  if (copy.place(target)) SafeCopy::flushFolders({&placed, 1});
+  return copy.state();
 }
 
 void removeLeftovers(const FolderItem& folder) {
-  const std::unique_ptr<DIR, int (*)(DIR*)> names(::opendir(folder.bytes().constData()), &::closedir);
+  const auto opened = [&] {
+    const FolderCall call;
+    return ::opendir(folder.bytes().constData());
+  };
+  const std::unique_ptr<DIR, int (*)(DIR*)> names(opened(), &::closedir);
   if (!names) return;
-  while (const dirent* entry = ::readdir(names.get())) {
+  const auto next = [&] {
+    const FolderCall call;
+    return ::readdir(names.get());
+  };
+  while (const dirent* entry = next()) {
+    const FolderCall call;
     struct stat info {};
     if (!hasOurMark(entry->d_name)) continue;
     if (::fstatat(::dirfd(names.get()), entry->d_name, &info, AT_SYMLINK_NOFOLLOW) != 0) continue;

@@ -7,6 +7,8 @@
 #include <cerrno>
 #include <vector>
 
+#include "platform/Reasons.h"
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -47,7 +49,8 @@ IoResult SpecialFolder::createPrivate(const FolderItem& folder) {
     const int error = errno;
     // Another process may have made it meanwhile.
     if (error == EEXIST && item->Directory()) continue;
-    return IoResult::failure(error == EEXIST ? ENOTDIR : error, u"making the folder "_s + item->NativePath());
+    return IoResult::failure(error == EEXIST ? ENOTDIR : error,
+                             fillPlaceholders(Reasons::klMakingFolder(), {item->NativePath()}));
   }
   return {};
 }

@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <atomic>
 
+#include "service/Credentials.h"
 #include "service/VantryUtil.h"
 
 template <typename Record>
@@ -22,10 +23,17 @@ class Catalogue {
     m_records = records;
   }
   [[nodiscard]] bool everFetched() const { return m_everFetched; }
-
-  /// Empties the list and fills it from a method's reply; entries that are no objects or arrays are passed over.
-  [[nodiscard]] bool fetch(const QString& method, HttpFailure* failure) {
+  /// Empties the list as if it had never been fetched.
+  void forget() {
     setRecords({});
+    m_everFetched = false;
+  }
+
+  /// Empties the list and fills it from a method's reply; entries that are no objects or arrays are passed over. An
+  /// answer to a login that was replaced meanwhile is dropped. After a failure it counts as never fetched.
+  [[nodiscard]] bool fetch(const QString& method, HttpFailure* failure) {
+    forget();
+    const QString login = storedPreference(loginKey());
     QString err;  // dropped: an empty list says it
     const std::optional<Dictionary> reply = VantryUtil::VTSoap(method, err, {}, {}, failure);
     if (!reply) return false;
@@ -33,12 +41,15 @@ class Catalogue {
     for (const QVariant& value : reply->Values()) {
       if (value.canConvert<JSONItem>()) fetched.append(Record(VantryUtil::JSONtoDictionary(value.value<JSONItem>())));
     }
+    if (storedPreference(loginKey()) != login) return false;
     setRecords(fetched);
     m_everFetched = true;
     return true;
   }
 
  private:
+  [[nodiscard]] static QString loginKey() { return QStringLiteral("SoapLogin"); }
+
   mutable QMutex m_mutex;  // guards m_records
   QList<Record> m_records;
   std::atomic<bool> m_everFetched{false};

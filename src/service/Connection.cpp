@@ -13,30 +13,36 @@
 
 #include "service/ConnectRace.h"
 #include "service/TlsContext.h"
+#include "text/Placeholders.h"
+#include "text/VTULocalization.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 Connection::~Connection() { close(); }
+
+/// The last, short piece of a request must not wait for the acknowledgement of the one before it.
+static void sendAtOnce(int socket) {
+  const int on = 1;
+  setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
+}
 
 HttpFailure Connection::open(const std::vector<SocketAddress>& addresses, const QString& peer, Deadline deadline) {
   using Phase = HttpFailure::Phase;
   ConnectRace race(addresses);
   switch (race.run(deadline)) {
     case WaitOutcome::Stopped:
-      return {Phase::Stopped, ECANCELED, u"stopped"_s};
+      return {Phase::Stopped, ECANCELED, VTULocalization::klStopped()};
     case WaitOutcome::Expired:
-      return {Phase::TimedOut, -1, u"connecting to %1 took too long"_s.arg(peer)};
+      return {Phase::TimedOut, -1, fillPlaceholders(VTULocalization::klConnectingSlow(), {peer})};
     case WaitOutcome::Ready:
       break;
   }
   m_socket = race.takeWinner();
   if (m_socket < 0) {
     const QString words = QString::fromLocal8Bit(strerror(race.lastError()));
-    return {Phase::Connect, race.lastError(), u"no connection to %1: %2"_s.arg(peer, words)};
+    return {Phase::Connect, race.lastError(), fillPlaceholders(VTULocalization::klNoConnection(), {peer, words})};
   }
-  // The last, short piece of a request must not wait for the acknowledgement of the one before it.
-  const int on = 1;
-  setsockopt(m_socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
+  sendAtOnce(m_socket);
   return {};
 }
 
@@ -122,13 +128,15 @@ Connection::Outcome Connection::tlsOutcome(int result, size_t bytes, bool writin
 QString Connection::lastErrorWords() const {
   if (!m_tlsError) return QString::fromLocal8Bit(strerror(m_lastError));
   const char* words = ERR_reason_error_string(ERR_PACK(ERR_LIB_SSL, 0, m_lastError));
-  return words ? QString::fromLatin1(words) : u"TLS error %1"_s.arg(m_lastError);
+  return words ? QString::fromLatin1(words)
+               : fillPlaceholders(VTULocalization::klTlsError(), {QString::number(m_lastError)});
 }
 
-WaitOutcome Connection::wait(bool writing, Deadline deadline) {
+WaitOutcome Connection::wait(bool writing, Deadline deadline, Connection* beside) {
   short events = POLLIN;
   if ((writing && !m_writeWantsInput) || m_readWantsOutput) events |= POLLOUT;
-  pollfd descriptors[] = {{m_socket, events, 0}};
+  pollfd descriptors[] = {{m_socket, events, 0}, {-1, 0, 0}};
+  if (beside && beside->advance()) descriptors[1] = {beside->m_socket, beside->stageEvents(), 0};
   return waitFor(descriptors, deadline);
 }
 
@@ -198,40 +206,101 @@ bio_st* Connection::newBio(Connection* connection) {
   return bio;
 }
 
-HttpFailure Connection::startTls(TlsContext& context, const QString& host, int port, const QString& peer,
-                                 Deadline deadline) {
+bool Connection::setUpTls(TlsContext& context, const QString& host, int port) {
   m_ssl = context.newClient(host, port);
   BIO* bio = m_ssl ? newBio(this) : nullptr;
-  if (!bio) return {HttpFailure::Phase::Tls, ENOMEM, u"TLS with %1 could not be set up"_s.arg(peer)};
+  if (!bio) return false;
   SSL_set_bio(m_ssl, bio, bio);
-  HttpFailure failure = handshake(peer, deadline);
+  return true;
+}
+
+HttpFailure Connection::startTls(TlsContext& context, const QString& host, int port, const QString& peer,
+                                 Deadline deadline) {
+  if (!setUpTls(context, host, port))
+    return {HttpFailure::Phase::Tls, ENOMEM, fillPlaceholders(VTULocalization::klTlsNotSetUp(), {peer})};
+  m_stage = Stage::Handshaking;
+  HttpFailure failure = finish(peer, deadline);
   if (failure.phase == HttpFailure::Phase::Tls) context.forgetSession(host, port);
   return failure;
 }
 
-HttpFailure Connection::handshake(const QString& peer, Deadline deadline) {
+void Connection::begin(const SocketAddress& address, TlsContext& context, const QString& host, int port) {
+  m_stage = Stage::Failed;
+  m_socket = ::socket(address.storage.ss_family, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
+  if (m_socket < 0 || !setUpTls(context, host, port)) return;
+  const int result = connect(m_socket, reinterpret_cast<const sockaddr*>(&address.storage), address.length);
+  if (result != 0 && errno != EINPROGRESS && errno != EINTR) return;
+  m_stage = Stage::Connecting;
+  advance();
+}
+
+bool Connection::advance() {
+  if (m_stage == Stage::Connecting) judgeConnecting();
+  if (m_stage == Stage::Handshaking) stepHandshake();
+  return m_stage == Stage::Connecting || m_stage == Stage::Handshaking;
+}
+
+void Connection::judgeConnecting() {
+  pollfd descriptor{m_socket, POLLOUT, 0};
+  if (poll(&descriptor, 1, 0) <= 0) return;
+  socklen_t size = sizeof m_lastError;
+  if (getsockopt(m_socket, SOL_SOCKET, SO_ERROR, &m_lastError, &size) != 0) m_lastError = errno;
+  m_stage = m_lastError == 0 ? Stage::Handshaking : Stage::Failed;
+  sendAtOnce(m_socket);
+}
+
+void Connection::stepHandshake() {
+  ERR_clear_error();
+  const int result = SSL_connect(m_ssl);
+  if (result == 1) {
+    m_stage = Stage::Standing;
+    return;
+  }
+  m_handshakeEnd = tlsOutcome(result, 0, false).io;
+  if (m_handshakeEnd != Io::Again || m_sendFailed) m_stage = Stage::Failed;
+}
+
+HttpFailure Connection::handshakeFailure(const QString& peer) const {
   using Phase = HttpFailure::Phase;
-  for (;;) {
-    ERR_clear_error();
-    const int result = SSL_connect(m_ssl);
-    if (result == 1) return {};
-    const Outcome outcome = tlsOutcome(result, 0, false);
-    if (outcome.io != Io::Again || m_sendFailed) {
-      if (const long verdict = SSL_get_verify_result(m_ssl); verdict != X509_V_OK) {
-        const QString words = QString::fromLatin1(X509_verify_cert_error_string(verdict));
-        return {Phase::Tls, static_cast<int>(verdict), u"the certificate of %1 is not accepted: %2"_s.arg(peer, words)};
-      }
-      const bool ended = outcome.io == Io::CutOff || outcome.io == Io::Closed;
-      const QString words = ended ? u"it closed the connection"_s : lastErrorWords();
-      return {Phase::Tls, m_lastError, u"no TLS connection to %1: %2"_s.arg(peer, words)};
-    }
-    switch (wait(m_readWantsOutput, deadline)) {
+  const long verdict = m_ssl ? SSL_get_verify_result(m_ssl) : X509_V_OK;
+  if (verdict != X509_V_OK) {
+    const QString words = QString::fromLatin1(X509_verify_cert_error_string(verdict));
+    return {Phase::Tls, static_cast<int>(verdict),
+            fillPlaceholders(VTULocalization::klCertificateRefused(), {peer, words})};
+  }
+  const bool ended = m_handshakeEnd == Io::CutOff || m_handshakeEnd == Io::Closed;
+  const QString words = ended ? VTULocalization::klItClosed() : lastErrorWords();
+  return {Phase::Tls, m_lastError, fillPlaceholders(VTULocalization::klNoTlsConnection(), {peer, words})};
+}
+
+short Connection::stageEvents() const {
+  return m_stage == Stage::Connecting || m_readWantsOutput ? POLLIN | POLLOUT : POLLIN;
+}
+
+HttpFailure Connection::finish(const QString& peer, Deadline deadline) {
+  using Phase = HttpFailure::Phase;
+  while (advance()) {
+    pollfd descriptors[] = {{m_socket, stageEvents(), 0}};
+    switch (waitFor(descriptors, deadline)) {
       case WaitOutcome::Stopped:
-        return {Phase::Stopped, ECANCELED, u"stopped"_s};
+        return {Phase::Stopped, ECANCELED, VTULocalization::klStopped()};
       case WaitOutcome::Expired:
-        return {Phase::TimedOut, -1, u"%1 did not answer in the TLS handshake"_s.arg(peer)};
+        return {Phase::TimedOut, -1, fillPlaceholders(VTULocalization::klTlsSilent(), {peer})};
       case WaitOutcome::Ready:
         break;
     }
   }
+  return m_stage == Stage::Standing ? HttpFailure() : handshakeFailure(peer);
+}
+
+bool Connection::peerStays() const {
+  pollfd descriptor{m_socket, POLLRDHUP, 0};
+  return m_stage == Stage::Standing && poll(&descriptor, 1, 0) == 0;
+}
+
+SocketAddress Connection::peerAddress() const {
+  SocketAddress address;
+  address.length = sizeof address.storage;
+  if (getpeername(m_socket, reinterpret_cast<sockaddr*>(&address.storage), &address.length) != 0) address.length = 0;
+  return address;
 }

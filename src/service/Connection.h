@@ -40,11 +40,22 @@ class Connection {
   [[nodiscard]] HttpFailure startTls(TlsContext& context, const QString& host, int port, const QString& peer,
                                      Deadline deadline);
 
+  /// Begins what open() and startTls() do, to one address and without waiting; advance() and finish() go on with it.
+  void begin(const SocketAddress& address, TlsContext& context, const QString& host, int port);
+  /// Takes the connection as far as it comes without waiting; false once it stands or has failed.
+  bool advance();
+  /// Waits until it stands.
+  [[nodiscard]] HttpFailure finish(const QString& peer, Deadline deadline);
+  /// False once the peer has ended the connection, which stands and has nothing under way.
+  [[nodiscard]] bool peerStays() const;
+  [[nodiscard]] SocketAddress peerAddress() const;
+
   [[nodiscard]] Outcome read(char* buffer, qsizetype size);
   /// With `moreFollows` the system may hold a short segment back for a moment, which spares the peer a wake-up each.
   [[nodiscard]] Outcome write(const char* data, qsizetype size, bool moreFollows = false);
-  /// Waits until read(), or write() if `writing`, is worth calling again.
-  [[nodiscard]] WaitOutcome wait(bool writing, Deadline deadline);
+  /// Waits until read(), or write() if `writing`, is worth calling again. A connection that is coming up `beside` it
+  /// is advanced meanwhile, and ends the wait as well.
+  [[nodiscard]] WaitOutcome wait(bool writing, Deadline deadline, Connection* beside = nullptr);
 
   /// Gives bytes back that were read too early; they are read again first.
   void unread(const QByteArray& bytes) { m_pushedBack.prepend(bytes); }
@@ -55,7 +66,12 @@ class Connection {
   [[nodiscard]] QString lastErrorWords() const;
 
  private:
-  [[nodiscard]] HttpFailure handshake(const QString& peer, Deadline deadline);
+  enum class Stage { Connecting, Handshaking, Standing, Failed };
+  [[nodiscard]] bool setUpTls(TlsContext& context, const QString& host, int port);
+  void judgeConnecting();
+  void stepHandshake();
+  [[nodiscard]] HttpFailure handshakeFailure(const QString& peer) const;
+  [[nodiscard]] short stageEvents() const;
   [[nodiscard]] Outcome tlsOutcome(int result, size_t bytes, bool writing);
   [[nodiscard]] ssize_t receive(char* buffer, size_t size);
   [[nodiscard]] ssize_t transmit(const char* data, size_t size);
@@ -67,6 +83,8 @@ class Connection {
 
   int m_socket = -1;
   ssl_st* m_ssl = nullptr;
+  Stage m_stage = Stage::Standing;
+  Io m_handshakeEnd = Io::Again;
   QByteArray m_pushedBack;
   int m_lastError = 0;  ///< errno, or OpenSSL's code if m_tlsError
   bool m_tlsError = false;

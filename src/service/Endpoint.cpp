@@ -28,10 +28,11 @@ void VantryUtil::setAccountURL(const QString& url) {
 }
 
 bool VantryUtil::ResolveAccountURL(HttpFailure* failure) {
-  const QString method = u"Get_API_URL"_s;
+  const QString method = u"Get_API_URL"_s, loginKey = u"SoapLogin"_s;
+  const QString login = storedPreference(loginKey);
   QString err;
   const std::optional<Dictionary> reply = VTSoap(method, err, {}, {}, failure);
-  if (!reply) return false;
+  if (!reply || storedPreference(loginKey) != login) return false;  // the answer for a login replaced meanwhile
   setAccountURL(reply->Lookup(method, DefaultAPIEndpoint()).toString());
   return true;
 }

@@ -8,6 +8,8 @@
 #include <cerrno>
 
 #include "platform/FileCipher.h"
+#include "platform/FolderCall.h"
+#include "platform/Reasons.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -18,6 +20,7 @@ static FileVersion versionFrom(const struct stat& status) {
 }
 
 static ssize_t readFully(int descriptor, char* buffer, size_t size) {
+  const FolderCall call;
   size_t count = 0;
   while (count < size) {
     const ssize_t more = ::read(descriptor, buffer + count, size - count);
@@ -35,19 +38,21 @@ FileSource::FileSource(const FolderItem& file, const FileVersion& version, FileS
 }
 
 FileSource::~FileSource() {
+  const FolderCall call;
   if (m_descriptor >= 0) close(m_descriptor);
   wipe(m_before);
 }
 
 bool FileSource::giveUp(bool changed, int error) {
   m_state.changed = changed;
-  m_state.failure = IoResult::failure(error, u"Reading %1"_s.arg(m_file.NativePath()));
+  m_state.failure = IoResult::failure(error, fillPlaceholders(Reasons::klReading(), {m_file.NativePath()}));
   if (m_descriptor >= 0) close(m_descriptor);
   m_descriptor = -1;
   return false;
 }
 
 void FileSource::open() {
+  const FolderCall call;
   // A fifo that took the file's place must not hold the thread up.
   m_descriptor = ::open(m_file.bytes().constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
   struct stat status {};
@@ -71,6 +76,7 @@ void FileSource::setEnvelope(const QByteArray& before, const QByteArray& behind)
 qint64 FileSource::size() const { return m_before.size() + base64Length(m_version.size) + m_behind.size(); }
 
 bool FileSource::stillTheSame() const {
+  const FolderCall call;
   struct stat open {};
   struct stat named {};
   return fstat(m_descriptor, &open) == 0 && versionFrom(open) == m_version &&

@@ -27,8 +27,9 @@ static QString extraCaFile() {
   return extraCaFilePath();
 }
 
-void VantryUtil::ConfigureProxy(HTTPSocket& socket) {
-  const ProxySetting setting = proxy();
+void VantryUtil::ConfigureProxy(HTTPSocket& socket) { ConfigureProxy(socket, proxy()); }
+
+void VantryUtil::ConfigureProxy(HTTPSocket& socket, const ProxySetting& setting) {
   if (setting.port < 1 || setting.address.trimmed().isEmpty()) return;
   socket.HTTPProxyAddress = setting.address;
   socket.HTTPProxyPort = setting.port;
@@ -123,6 +124,8 @@ QByteArray HTTPSocket::perform(const QByteArray& method, const QString& url, int
   request.extraCaFile = extraCaFile();
   request.limits = limits;
   request.timeoutMs = timeoutMs;
+  request.spare = spare;
+  request.anotherFollows = anotherFollows;
   m_exchange->reply = HttpExchange(request).run();
   return m_exchange->reply.body;
 }

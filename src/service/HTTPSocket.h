@@ -11,6 +11,8 @@
 #include <memory>
 #include <utility>
 
+class SpareConnection;
+
 /// Ordered header fields; names are compared without regard to case (RFC 9110).
 class InternetHeaders {
  public:
@@ -28,8 +30,10 @@ class InternetHeaders {
 struct HttpFailure {
   enum class Phase { None, Name, Connect, Proxy, Tls, Request, Reply, TooLarge, TimedOut, Source, Stopped };
   Phase phase = Phase::None;
-  int code = 0;    ///< errno or library code; -1 for a time-out
-  QString detail;  ///< words for a person; names the peer, never a secret
+  int code = 0;          ///< errno or library code; -1 for a time-out
+  QString detail;        ///< words for a person; names the peer, never a secret
+  QString peer{};        ///< host:port that was spoken to; empty before the first step
+  bool atProxy = false;  ///< `peer` is the proxy
   [[nodiscard]] bool failed() const { return phase != Phase::None; }
 };
 
@@ -61,6 +65,8 @@ class HTTPSocket {
   int DefaultPort = 80;
   InternetHeaders requestHeaders;  ///< starts with Accept and Accept-Language
   HttpLimits limits;
+  SpareConnection* spare = nullptr;  ///< the caller's, for a row of exchanges with one server over TLS
+  bool anotherFollows = false;       ///< a further exchange comes right behind the next one
 
   /// The content is wiped when it is replaced or the socket goes; a secret in it needs no other copy by then.
   void SetRequestContent(const QByteArray& content, const QByteArray& mimeType);
@@ -96,8 +102,11 @@ class HTTPSecureSocket : public HTTPSocket {
 };
 
 namespace VantryUtil {
+struct ProxySetting;
 /// Sets the proxy in force on a new socket, if there is one (address not blank, port 1 or more).
 void ConfigureProxy(HTTPSocket& socket);
+/// The same with a proxy of the caller's.
+void ConfigureProxy(HTTPSocket& socket, const ProxySetting& setting);
 /// A PEM file trusted beside the system's store for connections made from now on; empty for none. The build's own
 /// setting holds until this is called. For the practice build's tests. Any thread.
 void setExtraCaFile(const QString& pemFile);

@@ -5,6 +5,8 @@
 #include <cerrno>
 
 #include "platform/FileCipher.h"
+#include "text/Placeholders.h"
+#include "text/VTULocalization.h"
 
 using namespace Qt::Literals::StringLiterals;
 using Phase = HttpFailure::Phase;
@@ -41,6 +43,8 @@ QString HttpExchange::proxyAuthority() const {
 bool HttpExchange::take(const HttpFailure& failure) {
   if (!failure.failed()) return true;
   m_reply.failure = failure;
+  m_reply.failure.peer = m_atProxy ? proxyAuthority() : m_url.host.isEmpty() ? QString() : m_url.authority();
+  m_reply.failure.atProxy = m_atProxy;
   m_over = true;
   return false;
 }
@@ -56,26 +60,28 @@ HttpReply HttpExchange::run() {
   exchange();
   m_output.resize(m_output.capacity());  // wipes what earlier, longer pieces left behind, too
   wipe(m_output);
-  m_connection.close();
+  m_connection->close();
   return std::move(m_reply);
 }
 
 void HttpExchange::exchange() {
   const std::optional<Url> url = Url::parse(m_request.url, m_request.defaultPort);
   if (!url) {
-    fail(Phase::Name, EINVAL, u"the address of the service is not valid"_s);
+    fail(Phase::Name, EINVAL, VTULocalization::klAddressInvalid());
     return;
   }
   m_url = *url;
   m_output.reserve(OutputSize);
   m_output += requestHead(m_request, m_url);
   if (m_output.isEmpty()) {
-    fail(Phase::Request, EINVAL, u"a header of the request can't be written on one line"_s);
+    fail(Phase::Request, EINVAL, VTULocalization::klHeaderInvalid());
     return;
   }
-  if (!connectToPeer()) return;
-  if (m_request.secure && usesProxy() && !openTunnel()) return;
-  if (m_request.secure && !startTls()) return;
+  if (!standsAlready()) {
+    if (!connectToPeer()) return;
+    if (m_request.secure && usesProxy() && !openTunnel()) return;
+    if (m_request.secure && !startTls()) return;
+  }
   extendDeadline();
   m_parser = std::make_unique<ReplyParser>(m_request.limits);
   m_sending = true;
@@ -85,17 +91,33 @@ void HttpExchange::exchange() {
   deliver();
 }
 
+bool HttpExchange::standsAlready() {
+  if (!m_request.spare || !m_request.secure || usesProxy()) return false;
+  QString error;
+  m_tls = TlsContext::shared(m_request.extraCaFile, error);
+  std::unique_ptr<Connection> spare = m_request.spare->take(m_tls, m_url.host, m_url.port);
+  m_peer = m_url.authority();
+  // Nothing of the request was sent on it, so one that fails, or is slow, is as good as none.
+  const Deadline soon = std::chrono::steady_clock::now() + SpareConnection::Life;
+  if (!spare || spare->finish(m_peer, std::min(soon, m_deadline)).failed()) return false;
+  m_connection = std::move(spare);
+  return true;
+}
+
 bool HttpExchange::connectToPeer() {
-  m_peer = usesProxy() ? u"the proxy %1"_s.arg(proxyAuthority()) : m_url.authority();
+  m_atProxy = usesProxy();
+  m_peer = m_atProxy ? fillPlaceholders(VTULocalization::klTheProxy(), {proxyAuthority()}) : m_url.authority();
   const QString host = usesProxy() ? m_request.proxyAddress.trimmed() : m_url.host;
   const int port = usesProxy() ? m_request.proxyPort : m_url.port;
   NameMemory& memory = NameMemory::process();
   const auto now = std::chrono::steady_clock::now();
   const auto remembered = memory.recall(host, port, now);
-  if (!remembered.empty() && !m_connection.open(remembered, m_peer, m_deadline).failed()) return true;
-  memory.forget(host, port);  // the name may have moved, so it is asked for anew before the exchange fails
+  // The name may have moved, so it is asked for anew before the exchange fails, with half of the time kept for that.
+  const Deadline half = now + (m_deadline - now) / 2;
+  if (!remembered.empty() && !m_connection->open(remembered, m_peer, half).failed()) return true;
+  memory.forget(host, port);
   NameLookupResult names = lookUpName(host, port, m_peer, m_deadline);
-  if (!names.failure.failed()) names.failure = m_connection.open(names.addresses, m_peer, m_deadline);
+  if (!names.failure.failed()) names.failure = m_connection->open(names.addresses, m_peer, m_deadline);
   if (!names.failure.failed()) memory.remember(host, port, names.addresses, now);
   return take(names.failure);
 }
@@ -105,34 +127,35 @@ bool HttpExchange::openTunnel() {
   HeadReader reader(m_request.limits.maxHeaderBytes);
   for (;;) {
     if (!left.isEmpty()) {
-      const Connection::Outcome sent = m_connection.write(left.constData(), left.size());
+      const Connection::Outcome sent = m_connection->write(left.constData(), left.size());
       if (sent.io == Connection::Io::Progress)
         left.remove(0, sent.bytes);
       else if (sent.io != Connection::Io::Again)
         left.clear();  // its answer, or its end, is still to be read
     }
     std::array<char, ReadSize> buffer;
-    const Connection::Outcome outcome = m_connection.read(buffer.data(), buffer.size());
+    const Connection::Outcome outcome = m_connection->read(buffer.data(), buffer.size());
     if (outcome.io == Connection::Io::Progress) {
       switch (reader.feed(QByteArrayView(buffer.data(), outcome.bytes))) {
         case HeadReader::State::Incomplete:
           break;
         case HeadReader::State::TooLarge:
-          return fail(Phase::TooLarge, EMSGSIZE, u"the reply of %1 is too large"_s.arg(m_peer));
+          return fail(Phase::TooLarge, EMSGSIZE, fillPlaceholders(VTULocalization::klReplyTooLarge(), {m_peer}));
         case HeadReader::State::Complete:
           return takeTunnelAnswer(reader);
       }
     } else if (outcome.io == Connection::Io::Again) {
       if (!waitForPeer(!left.isEmpty())) return false;
     } else {
-      return fail(Phase::Proxy, m_connection.lastError(), u"%1 closed the connection"_s.arg(m_peer));
+      return fail(Phase::Proxy, m_connection->lastError(),
+                  fillPlaceholders(VTULocalization::klClosedConnection(), {m_peer}));
     }
   }
 }
 
 bool HttpExchange::takeTunnelAnswer(const HeadReader& reader) {
   if (reader.status() == 200) {
-    m_connection.unread(reader.rest());  // belongs to whom the tunnel leads to
+    m_connection->unread(reader.rest());  // belongs to whom the tunnel leads to
     return true;
   }
   m_parser = std::make_unique<ReplyParser>(m_request.limits);
@@ -140,33 +163,36 @@ bool HttpExchange::takeTunnelAnswer(const HeadReader& reader) {
   transfer();
   deliver();
   if (m_reply.failure.failed()) return false;
-  return fail(Phase::Proxy, m_reply.status, u"%1 refused with status %2"_s.arg(m_peer).arg(m_reply.status));
+  return fail(Phase::Proxy, m_reply.status,
+              fillPlaceholders(VTULocalization::klRefusedWithStatus(), {m_peer, QString::number(m_reply.status)}));
 }
 
 bool HttpExchange::startTls() {
   m_peer = m_url.authority();
+  m_atProxy = false;
   QString error;
   m_tls = TlsContext::shared(m_request.extraCaFile, error);
   if (!m_tls) return fail(Phase::Tls, EINVAL, error);
-  return take(m_connection.startTls(*m_tls, m_url.host, m_url.port, m_peer, m_deadline));
+  return take(m_connection->startTls(*m_tls, m_url.host, m_url.port, m_peer, m_deadline));
 }
 
 HttpFailure HttpExchange::timeOut() const {
   const double seconds = m_request.timeoutMs / 1000.0;
-  QString words = u"%1 did not answer within %2 s"_s;
+  QString words = VTULocalization::klNoAnswerWithin();
   if (m_sending && !m_writesFailed)
-    words = u"%1 did not take the whole request within %2 s"_s;
+    words = VTULocalization::klRequestNotTaken();
   else if (m_parser && m_parser->bodyBytes() > 0)
-    words = u"%1 fell silent in its reply for %2 s"_s;
-  return {Phase::TimedOut, -1, words.arg(m_peer).arg(seconds)};
+    words = VTULocalization::klReplyStopped();
+  return {Phase::TimedOut, -1, fillPlaceholders(words, {m_peer, QString::number(seconds)})};
 }
 
 bool HttpExchange::waitForPeer(bool writing) {
-  switch (m_connection.wait(writing, m_deadline)) {
+  Connection* beside = m_request.spare ? m_request.spare->get() : nullptr;
+  switch (m_connection->wait(writing, m_deadline, beside)) {
     case WaitOutcome::Ready:
       return true;
     case WaitOutcome::Stopped:
-      return fail(Phase::Stopped, ECANCELED, u"stopped"_s);
+      return fail(Phase::Stopped, ECANCELED, VTULocalization::klStopped());
     case WaitOutcome::Expired:
       break;
   }
@@ -176,7 +202,7 @@ bool HttpExchange::waitForPeer(bool writing) {
 void HttpExchange::transfer() {
   while (!m_over) {
     if (StopSignal::process().raised()) {
-      fail(Phase::Stopped, ECANCELED, u"stopped"_s);
+      fail(Phase::Stopped, ECANCELED, VTULocalization::klStopped());
       return;
     }
     // Input first: a reply that comes while the request is still being sent ends the sending.
@@ -193,6 +219,12 @@ void HttpExchange::transfer() {
   }
 }
 
+void HttpExchange::prepareNext() {
+  if (!m_request.anotherFollows || !m_request.spare || !m_request.secure || usesProxy() || m_request.spare->get())
+    return;
+  m_request.spare->begin(*m_connection, m_tls, m_url.host, m_url.port);
+}
+
 void HttpExchange::deliver() {
   m_reply.status = m_parser->status();
   m_reply.headers = m_parser->headers();
@@ -201,7 +233,7 @@ void HttpExchange::deliver() {
 
 bool HttpExchange::readReply() {
   std::array<char, ReadSize> buffer;
-  const Connection::Outcome outcome = m_connection.read(buffer.data(), buffer.size());
+  const Connection::Outcome outcome = m_connection->read(buffer.data(), buffer.size());
   if (outcome.io == Connection::Io::Again) return false;
   if (outcome.io != Connection::Io::Progress) {
     connectionEnded(outcome.io);
@@ -220,13 +252,13 @@ void HttpExchange::judgeReply(ReplyParser::State state) {
       return;
     case ReplyParser::State::Complete:
       m_over = true;
-      if (m_sending) fail(Phase::Request, 0, u"%1 answered before it had the whole request"_s.arg(m_peer));
+      if (m_sending) fail(Phase::Request, 0, fillPlaceholders(VTULocalization::klAnsweredEarly(), {m_peer}));
       return;
     case ReplyParser::State::TooLarge:
-      fail(Phase::TooLarge, EMSGSIZE, u"the reply of %1 is too large"_s.arg(m_peer));
+      fail(Phase::TooLarge, EMSGSIZE, fillPlaceholders(VTULocalization::klReplyTooLarge(), {m_peer}));
       return;
     case ReplyParser::State::BadLength:
-      fail(Phase::Reply, EBADMSG, u"%1 announced a reply of an impossible length"_s.arg(m_peer));
+      fail(Phase::Reply, EBADMSG, fillPlaceholders(VTULocalization::klReplyBadLength(), {m_peer}));
       return;
   }
 }
@@ -235,12 +267,12 @@ void HttpExchange::connectionEnded(Connection::Io how) {
   m_over = true;
   const Phase phase = m_sending ? Phase::Request : Phase::Reply;
   if (how == Connection::Io::Broken) {
-    const QString words = m_connection.lastErrorWords();
-    fail(phase, m_connection.lastError(), u"the connection to %1 broke: %2"_s.arg(m_peer, words));
+    const QString words = m_connection->lastErrorWords();
+    fail(phase, m_connection->lastError(), fillPlaceholders(VTULocalization::klConnectionBroke(), {m_peer, words}));
   } else if (m_sending) {
-    fail(phase, 0, u"%1 closed the connection before it had the whole request"_s.arg(m_peer));
+    fail(phase, 0, fillPlaceholders(VTULocalization::klClosedInRequest(), {m_peer}));
   } else if (how == Connection::Io::CutOff || !m_parser->endsWithConnection()) {
-    fail(phase, 0, u"%1 closed the connection before its reply was complete"_s.arg(m_peer));
+    fail(phase, 0, fillPlaceholders(VTULocalization::klClosedInReply(), {m_peer}));
   }
 }
 
@@ -251,7 +283,7 @@ bool HttpExchange::nextPiece() {
   m_contentLeft -= count;
   // A content that isn't as long as was announced must not be sent to its end: the server would take it as whole.
   if (read && count > 0 && m_contentLeft >= 0) return true;
-  return fail(Phase::Source, EIO, u"the content could not be read to its end"_s);
+  return fail(Phase::Source, EIO, VTULocalization::klContentShort());
 }
 
 bool HttpExchange::sendMore() {
@@ -259,7 +291,7 @@ bool HttpExchange::sendMore() {
   while (m_outputSent < m_output.size()) {
     const qsizetype left = m_output.size() - m_outputSent;
     const Connection::Outcome outcome =
-        m_connection.write(m_output.constData() + m_outputSent, left, m_contentLeft > 0);
+        m_connection->write(m_output.constData() + m_outputSent, left, m_contentLeft > 0);
     if (outcome.io == Connection::Io::Again) return moved;
     moved = true;
     if (outcome.io != Connection::Io::Progress) {
@@ -270,9 +302,11 @@ bool HttpExchange::sendMore() {
   }
   m_output.resize(0);
   m_outputSent = 0;
-  if (m_contentLeft == 0)
-    m_sending = false;
-  else
-    (void)nextPiece();
+  if (m_contentLeft > 0) {
+    (void)nextPiece();  // a failure ends the exchange by itself
+    return true;
+  }
+  m_sending = false;
+  prepareNext();
   return true;
 }

@@ -8,6 +8,7 @@
 #include "service/Connection.h"
 #include "service/HTTPSocket.h"
 #include "service/ReplyParser.h"
+#include "service/SpareConnection.h"
 #include "service/TlsContext.h"
 #include "service/Url.h"
 
@@ -24,6 +25,8 @@ struct HttpRequest {
   QString extraCaFile;
   HttpLimits limits;
   int timeoutMs = 0;
+  SpareConnection* spare = nullptr;  ///< taken from, and filled for the exchange after this if `anotherFollows`
+  bool anotherFollows = false;
 };
 
 struct HttpReply {
@@ -47,6 +50,7 @@ class HttpExchange {
 
   // The steps up to a connection that stands; false when the exchange is over.
   void exchange();
+  bool standsAlready();
   bool connectToPeer();
   bool openTunnel();
   bool takeTunnelAnswer(const HeadReader& reader);
@@ -62,6 +66,8 @@ class HttpExchange {
   void connectionEnded(Connection::Io how);
   void judgeReply(ReplyParser::State state);
   void deliver();
+  /// While the reply is being made: the connection for the exchange after this one.
+  void prepareNext();
   bool waitForPeer(bool writing);
   void extendDeadline();
   [[nodiscard]] HttpFailure timeOut() const;
@@ -71,9 +77,10 @@ class HttpExchange {
 
   const HttpRequest& m_request;
   Url m_url;
-  QString m_peer;  ///< who is spoken to at present, for messages
+  QString m_peer;          ///< who is spoken to at present, for messages
+  bool m_atProxy = false;  ///< it is the proxy
   std::shared_ptr<TlsContext> m_tls;
-  Connection m_connection;
+  std::unique_ptr<Connection> m_connection = std::make_unique<Connection>();
   Deadline m_deadline;
   HttpReply m_reply;
   std::unique_ptr<ReplyParser> m_parser;

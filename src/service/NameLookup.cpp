@@ -14,20 +14,23 @@
 #include <thread>
 
 #include "platform/System.h"
+#include "text/Placeholders.h"
+#include "text/VTULocalization.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 // More than these at once means that the resolver hangs for good; another thread would only hang beside them.
 static constexpr int MaxLookupsUnderWay = 16;
 
-static ResolverAnswer resolve(const QByteArray& host, int port, int flags) {
+/// `host` may be nullptr, for the loopback addresses.
+static ResolverAnswer resolve(const char* host, int port, int flags) {
   addrinfo hints{};
   hints.ai_family = AF_UNSPEC;
   hints.ai_socktype = SOCK_STREAM;
   hints.ai_flags = flags | AI_NUMERICSERV;
   addrinfo* list = nullptr;
   ResolverAnswer answer;
-  answer.code = getaddrinfo(host.constData(), QByteArray::number(port).constData(), &hints, &list);
+  answer.code = getaddrinfo(host, QByteArray::number(port).constData(), &hints, &list);
   if (answer.code != 0) answer.words = QString::fromLocal8Bit(gai_strerror(answer.code));
   for (const addrinfo* item = list; item; item = item->ai_next) {
     SocketAddress& address = answer.addresses.emplace_back();
@@ -38,7 +41,11 @@ static ResolverAnswer resolve(const QByteArray& host, int port, int flags) {
   return answer;
 }
 
-ResolverAnswer systemResolver(const QByteArray& host, int port) { return resolve(host, port, AI_ADDRCONFIG); }
+ResolverAnswer systemResolver(const QByteArray& host, int port) {
+  // This name means this machine (RFC 6761 6.3), also where no hosts file says so.
+  if (host.compare("localhost", Qt::CaseInsensitive) == 0) return resolve(nullptr, port, 0);
+  return resolve(host.constData(), port, AI_ADDRCONFIG);
+}
 
 namespace {
 
@@ -95,27 +102,29 @@ NameLookupResult lookUpName(const QString& host, int port, const QString& peer, 
     return NameLookupResult{{}, {phase, code, detail}};
   };
   const QByteArray name = host.contains(u':') ? host.toLatin1() : QUrl::toAce(host);
-  if (name.isEmpty()) return failed(Phase::Name, EAI_NONAME, u"%1 has no valid host name"_s.arg(peer));
-  if (ResolverAnswer numeric = resolve(name, port, AI_NUMERICHOST); numeric.code == 0) {
+  if (name.isEmpty())
+    return failed(Phase::Name, EAI_NONAME, fillPlaceholders(VTULocalization::klNameInvalid(), {peer}));
+  if (ResolverAnswer numeric = resolve(name.constData(), port, AI_NUMERICHOST); numeric.code == 0) {
     return {std::move(numeric.addresses), {}};
   }
 
   const auto query = std::make_shared<Query>();
   if (!ask(query, resolver, name, port)) {
-    return failed(Phase::Name, EAGAIN, u"the name of %1 can't be looked up: earlier look-ups still hang"_s.arg(peer));
+    return failed(Phase::Name, EAGAIN, fillPlaceholders(VTULocalization::klLookUpsHang(), {peer}));
   }
   pollfd descriptors[] = {{query->finished, POLLIN, 0}};
   switch (waitFor(descriptors, deadline)) {
     case WaitOutcome::Stopped:
-      return failed(Phase::Stopped, ECANCELED, u"stopped"_s);
+      return failed(Phase::Stopped, ECANCELED, VTULocalization::klStopped());
     case WaitOutcome::Expired:
-      return failed(Phase::TimedOut, -1, u"the look-up of the name of %1 took too long"_s.arg(peer));
+      return failed(Phase::TimedOut, -1, fillPlaceholders(VTULocalization::klLookUpSlow(), {peer}));
     case WaitOutcome::Ready:
       break;
   }
   const std::lock_guard lock(query->mutex);
   if (query->answer.code != 0) {
-    return failed(Phase::Name, query->answer.code, u"the name of %1 is not known: %2"_s.arg(peer, query->answer.words));
+    return failed(Phase::Name, query->answer.code,
+                  fillPlaceholders(VTULocalization::klNameUnknown(), {peer, query->answer.words}));
   }
   return {query->answer.addresses, {}};
 }

@@ -6,6 +6,7 @@
 #include "service/FileSource.h"
 #include "service/SoapReply.h"
 #include "service/VantryUtil.h"
+#include "text/VTULocalization.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -34,7 +35,7 @@ static void setEnvelope(FileSource& source, const QString& filename, const QStri
 static void takeFileState(const FileSourceState& state, VantryUtil::SendFileWatch& watch) {
   watch.fileChanged = state.changed;
   if (state.failure.ok()) return;
-  const QString words = state.changed ? u"the file changed before it was sent whole"_s : state.failure.message();
+  const QString words = state.changed ? VTULocalization::klFileChanged() : state.failure.message();
   watch.failure = {HttpFailure::Phase::Source, state.failure.error, words};
 }
 
@@ -44,7 +45,7 @@ std::optional<Dictionary> VantryUtil::SendFile(const QString& filename, const QS
   watch.fileChanged = false;
   watch.failure = {};
   if (!file) {
-    watch.failure = {HttpFailure::Phase::Source, ENOENT, u"there is no file to send"_s};
+    watch.failure = {HttpFailure::Phase::Source, ENOENT, VTULocalization::klNoFileToSend()};
     return std::nullopt;
   }
   FileSourceState state;
@@ -58,6 +59,8 @@ std::optional<Dictionary> VantryUtil::SendFile(const QString& filename, const QS
 
   HTTPSecureSocket socket;
   ConfigureProxy(socket);
+  socket.spare = watch.spare;
+  socket.anotherFollows = watch.anotherFollows;
   socket.SetRequestSource(std::move(source), EnvelopeType);
   const QByteArray page = socket.Post(endpointInForce(), ServiceTimeoutMs);
   watch.failure = socket.failure();

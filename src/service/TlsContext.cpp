@@ -11,11 +11,14 @@
 
 #include "platform/SafeFile.h"
 #include "service/Url.h"
+#include "text/Placeholders.h"
+#include "text/VTULocalization.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 // The servers of an account are one or two; more than this is somebody's test.
-static constexpr size_t MaxSessions = 64;
+static constexpr size_t MaxServers = 64;
+static constexpr size_t MaxSessions = 4;  // of one server; two come with each connection
 
 /// Where an SSL object keeps the name under which its sessions are filed.
 static int serverNameIndex() {
@@ -28,13 +31,13 @@ static int serverNameIndex() {
 std::shared_ptr<TlsContext> TlsContext::load(const QString& extraCaFile, QString& error) {
   const std::unique_ptr<SSL_CTX, void (*)(SSL_CTX*)> context(SSL_CTX_new(TLS_client_method()), SSL_CTX_free);
   if (!context || SSL_CTX_set_min_proto_version(context.get(), TLS1_2_VERSION) != 1) {
-    error = u"OpenSSL could not be set up"_s;
+    error = VTULocalization::klTlsLibraryFailed();
     return nullptr;
   }
   SSL_CTX_set_default_verify_paths(context.get());
   if (!extraCaFile.isEmpty() &&
       SSL_CTX_load_verify_file(context.get(), QFile::encodeName(extraCaFile).constData()) != 1) {
-    error = u"the file of trusted certificates \"%1\" can't be used"_s.arg(extraCaFile);
+    error = fillPlaceholders(VTULocalization::klTrustFileUnusable(), {extraCaFile});
     ERR_clear_error();
     return nullptr;
   }
@@ -95,11 +98,18 @@ ssl_st* TlsContext::newClient(const QString& host, int port) {
   }
   const QByteArray server = serverName(host, port);
   SSL_set_ex_data(ssl, serverNameIndex(), new QByteArray(server));
-  const std::lock_guard lock(m_mutex);
-  if (const auto found = m_sessions.find(server); found != m_sessions.end()) {
-    SSL_set_session(ssl, found->second.get());
-  }
+  useSession(ssl, server);
   return ssl;
+}
+
+/// A session of TLS 1.3 serves once (RFC 8446 C.4), and OpenSSL holds to it.
+void TlsContext::useSession(ssl_st* ssl, const QByteArray& server) {
+  const std::lock_guard lock(m_mutex);
+  const auto found = m_sessions.find(server);
+  if (found == m_sessions.end() || found->second.empty()) return;
+  SSL_SESSION* const newest = found->second.back().get();
+  SSL_set_session(ssl, newest);
+  if (SSL_SESSION_get_protocol_version(newest) >= TLS1_3_VERSION) found->second.pop_back();
 }
 
 int TlsContext::sessionArrived(ssl_st* ssl, ssl_session_st* session) {
@@ -112,8 +122,10 @@ int TlsContext::sessionArrived(ssl_st* ssl, ssl_session_st* session) {
 
 void TlsContext::keepSession(const QByteArray& server, ssl_session_st* session) {
   const std::lock_guard lock(m_mutex);
-  if (m_sessions.size() >= MaxSessions && !m_sessions.contains(server)) m_sessions.clear();
-  m_sessions.insert_or_assign(server, SessionPointer(session, SSL_SESSION_free));
+  if (m_sessions.size() >= MaxServers && !m_sessions.contains(server)) m_sessions.clear();
+  std::vector<SessionPointer>& sessions = m_sessions[server];
+  if (sessions.size() >= MaxSessions) sessions.erase(sessions.begin());
+  sessions.emplace_back(session, SSL_SESSION_free);
 }
 
 void TlsContext::forgetSession(const QString& host, int port) {

@@ -7,6 +7,7 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <vector>
 
 struct ssl_ctx_st;
 struct ssl_st;
@@ -22,20 +23,21 @@ class TlsContext {
   TlsContext(const TlsContext&) = delete;
   TlsContext& operator=(const TlsContext&) = delete;
 
-  /// A client that will accept no certificate but a trusted one for `host`, with the last session of that server, if
-  /// there is one. The caller frees it, before this context. nullptr if OpenSSL refuses.
+  /// A client that will accept no certificate but a trusted one for `host`, with the newest session of that
+  /// server, if there is one. The caller frees it, before this context. nullptr if OpenSSL refuses.
   [[nodiscard]] ssl_st* newClient(const QString& host, int port);
   void forgetSession(const QString& host, int port);
 
  private:
   explicit TlsContext(ssl_ctx_st* context) : m_context(context) {}
   static std::shared_ptr<TlsContext> load(const QString& extraCaFile, QString& error);
+  void useSession(ssl_st* ssl, const QByteArray& server);
   void keepSession(const QByteArray& server, ssl_session_st* session);
   static int sessionArrived(ssl_st* ssl, ssl_session_st* session);
 
   using SessionPointer = std::unique_ptr<ssl_session_st, void (*)(ssl_session_st*)>;
 
   ssl_ctx_st* m_context;
-  std::mutex m_mutex;  // guards m_sessions
-  std::map<QByteArray, SessionPointer> m_sessions;
+  std::mutex m_mutex;                                            // guards m_sessions
+  std::map<QByteArray, std::vector<SessionPointer>> m_sessions;  // the newest last
 };

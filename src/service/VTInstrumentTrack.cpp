@@ -27,6 +27,8 @@ void VTInstrumentTrack::setTracks(const QList<VTInstrumentTrack>& tracks) { cata
 
 bool VTInstrumentTrack::everFetched() { return catalogue().everFetched(); }
 
+void VTInstrumentTrack::forget() { catalogue().forget(); }
+
 QStringList VTInstrumentTrack::InstrumentNames() {
   QStringList names;
   for (const VTInstrumentTrack& track : Tracks()) appendDistinct(names, track.InstrumentIdentity());

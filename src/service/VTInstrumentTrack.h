@@ -22,6 +22,8 @@ class VTInstrumentTrack {
   [[nodiscard]] static QList<VTInstrumentTrack> Tracks();
   static void setTracks(const QList<VTInstrumentTrack>& tracks);
   [[nodiscard]] static bool everFetched();
+  /// Empties the list, which belongs to another account from now on.
+  static void forget();
 
   [[nodiscard]] static QStringList InstrumentNames();
   [[nodiscard]] static QStringList GetTargetsForDevice(const QString& instrumentIdentity);

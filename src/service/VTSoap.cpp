@@ -7,9 +7,10 @@
 using namespace Qt::Literals::StringLiterals;
 
 std::optional<Dictionary> VantryUtil::VTSoap(const QString& method, QString& err, const QString& login,
-                                             const QString& password, HttpFailure* failure) {
+                                             const QString& password, HttpFailure* failure,
+                                             const ProxySetting* through) {
   HTTPSecureSocket socket;
-  ConfigureProxy(socket);
+  ConfigureProxy(socket, through ? *through : proxy());
   const QString loginInForce = login.isEmpty() ? storedPreference(u"SoapLogin"_s) : login;
   const QString passwordInForce = password.isEmpty() ? storedPreference(u"SoapPassword"_s) : password;
   const QByteArray loginField = Envelope::escaped(loginInForce), methodField = method.toUtf8();

@@ -25,6 +25,8 @@ void VTTrack::setTracks(const QList<VTTrack>& tracks) { catalogue().setRecords(t
 
 bool VTTrack::everFetched() { return catalogue().everFetched(); }
 
+void VTTrack::forget() { catalogue().forget(); }
+
 QStringList VTTrack::ListDevices() {
   QStringList devices;
   for (const VTTrack& track : Tracks()) appendDistinct(devices, track.Device);

@@ -20,8 +20,10 @@ class VTTrack {
 
   [[nodiscard]] static QList<VTTrack> Tracks();
   static void setTracks(const QList<VTTrack>& tracks);
-  /// True once a fetch has succeeded since the program started.
+  /// True once a fetch has succeeded since the program started, or since forget().
   [[nodiscard]] static bool everFetched();
+  /// Empties the list, which belongs to another account from now on.
+  static void forget();
 
   // Lookups walk the list in the service's order and compare without regard to case; the first match holds.
   [[nodiscard]] static QStringList ListDevices();

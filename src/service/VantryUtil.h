@@ -12,6 +12,7 @@
 #include "platform/SafeFile.h"
 #include "service/HTTPSocket.h"
 #include "storage/Dictionary.h"
+#include "storage/Preferences.h"
 
 namespace VantryUtil {
 
@@ -23,14 +24,18 @@ void setAccountURL(const QString& url);
 
 /// Calls a method that takes no parameters. An empty login or password means the stored one, trimmed. Gives the
 /// reply, or nothing with `err` an error code of the service, "err", a text, or as the caller set it when no usable
-/// reply came. `failure`, if given, tells how the exchange itself ended.
+/// reply came. `failure`, if given, tells how the exchange itself ended. `through`, if given, is taken in the place of
+/// the proxy in force.
 [[nodiscard]] std::optional<Dictionary> VTSoap(const QString& method, QString& err, const QString& login,
-                                               const QString& password, HttpFailure* failure = nullptr);
+                                               const QString& password, HttpFailure* failure = nullptr,
+                                               const ProxySetting* through = nullptr);
 
 /// How a file's exchange is to be watched, and what it found of the file.
 struct SendFileWatch {
   FileVersion version;                                      ///< the version to send; a file in any other is not sent
   std::function<void(qint64 sent, qint64 total)> progress;  ///< file bytes, after each 48 KiB of them; calling thread
+  SpareConnection* spare = nullptr;                         ///< for a row of files, the caller's
+  bool anotherFollows = false;  ///< another file follows at once: its connection is made ahead
   bool fileChanged = false;  ///< out: the file was not in that version, or moved while it was read; exchange broken off
   HttpFailure failure;       ///< out: how the exchange ended
 };

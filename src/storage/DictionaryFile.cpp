@@ -5,6 +5,7 @@
 #include <QMutexLocker>
 
 #include "platform/FileCipher.h"
+#include "platform/Reasons.h"
 #include "platform/SafeFile.h"
 #include "storage/DictionaryFormat.h"
 
@@ -144,9 +145,9 @@ bool DictionaryFile::write(const std::optional<FolderItem>& target) {
   {
     const QMutexLocker lock(&m_mutex);
     if (!target)
-      m_lastFailure = IoResult::failure(EINVAL, u"saving without a file"_s);
+      m_lastFailure = IoResult::failure(EINVAL, Reasons::klSavingWithoutFile());
     else if (target == m_unread)
-      m_lastFailure = IoResult::failure(EPERM, u"writing over %1, which could not be read"_s.arg(target->Name()));
+      m_lastFailure = IoResult::failure(EPERM, fillPlaceholders(Reasons::klWritingOver(), {target->Name()}));
     else
       m_lastFailure = {};
     if (!m_lastFailure.ok()) return false;
@@ -154,8 +155,9 @@ bool DictionaryFile::write(const std::optional<FolderItem>& target) {
   }
   const QString key = currentKey();
   QByteArray content = DictionaryFormat::write(values, key);
-  const IoResult written = content.isEmpty() ? IoResult::failure(EIO, u"enciphering %1"_s.arg(target->Name()))
-                                             : writeFileSafely(*target, content, m_ops);
+  const IoResult written = content.isEmpty()
+                               ? IoResult::failure(EIO, fillPlaceholders(Reasons::klEnciphering(), {target->Name()}))
+                               : writeFileSafely(*target, content, m_ops);
   if (key.isEmpty()) wipe(content);
   const QMutexLocker lock(&m_mutex);
   m_lastFailure = written;

@@ -8,6 +8,7 @@
 
 #include "platform/FileCipher.h"
 #include "platform/JSONItem.h"
+#include "platform/Reasons.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -108,18 +109,17 @@ IoResult read(const QByteArray& content, const QString& key, Dictionary& diction
   QByteArray json = content;
   if (!key.isEmpty()) {
     const auto enciphered = fromBase64(content);
-    if (!enciphered) return IoResult::failure(Damaged, u"it is not a settings file, or it is damaged"_s);
+    if (!enciphered) return IoResult::failure(Damaged, Reasons::klNotOurs());
     FileCipher cipher;
     cipher.Init(key);
     auto plain = cipher.Decode(*enciphered);
-    if (!plain) return IoResult::failure(Damaged, u"it is damaged, or another program wrote it"_s);
+    if (!plain) return IoResult::failure(Damaged, Reasons::klOtherProgram());
     json = std::move(*plain);  // moved, so that the wiping below reaches the only copy
   }
   // The parser's own words would quote the text, which holds secrets.
   const auto object = JSONItem::parse(json);
   wipe(json);
-  if (!object || object->kind() != JSONItem::Kind::Object)
-    return IoResult::failure(Damaged, u"its content is not a JSON object"_s);
+  if (!object || object->kind() != JSONItem::Kind::Object) return IoResult::failure(Damaged, Reasons::klNotAnObject());
   for (int i = 0; i < object->Count(); ++i) dictionary.setValue(object->Name(i), fromItem(object->Value(i)));
   return {};
 }

@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "platform/Problems.h"
+#include "platform/Reasons.h"
 #include "platform/SpecialFolder.h"
 #include "storage/SetAside.h"
 
@@ -114,12 +115,12 @@ int Opening::attempt(Journal journal) {
 /// would drop its locks.
 int Opening::makePrivateFile() {
   // SQLite would delete the journal, which may hold all that is left of a file that was emptied.
-  if (m_file.Length() == 0 && hasWriteAheadJournal()) return refuse(SQLITE_CORRUPT, u"its content is gone"_s);
+  if (m_file.Length() == 0 && hasWriteAheadJournal()) return refuse(SQLITE_CORRUPT, Reasons::klContentGone());
   const int fd = ::open(m_file.bytes().constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
   if (fd >= 0)
     ::close(fd);
   else if (errno != EEXIST)
-    return refuse(SQLITE_CANTOPEN, IoResult::failure(errno, u"making it"_s).message());
+    return refuse(SQLITE_CANTOPEN, IoResult::failure(errno, Reasons::klMakingIt()).message());
   return SQLITE_OK;
 }
 
@@ -127,7 +128,7 @@ int Opening::connect() {
   const int code = sqlite3_open_v2(m_file.bytes().constData(), &m_db,
                                    SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr);
   if (tell(code) != SQLITE_OK) return code;
-  if (sqlite3_db_readonly(m_db, "main") == 1) return refuse(SQLITE_READONLY, u"the file is write-protected"_s);
+  if (sqlite3_db_readonly(m_db, "main") == 1) return refuse(SQLITE_READONLY, Reasons::klWriteProtected());
   // Until the file has proved to be whole, its journal is not to be merged or removed.
   keepJournalOnClose(true);
   return SQLITE_OK;
@@ -159,7 +160,7 @@ int Opening::checkLength() {
   std::string pageSize;
   if (const int code = tell(run("PRAGMA page_size", &pageSize)); code != SQLITE_OK) return code;
   const bool whole = m_file.Length() % std::stoll(pageSize) == 0;
-  return whole || hasWriteAheadJournal() ? SQLITE_OK : refuse(SQLITE_CORRUPT, u"its end is cut off"_s);
+  return whole || hasWriteAheadJournal() ? SQLITE_OK : refuse(SQLITE_CORRUPT, Reasons::klEndCutOff());
 }
 
 /// An empty transaction, with every lock that an insert takes.
@@ -213,27 +214,49 @@ LogDatabase::~LogDatabase() {
   sqlite3_close_v2(m_db);
 }
 
-std::optional<qint64> LogDatabase::insert(const LogRow& row, QString* error) {
+int LogDatabase::run(const char* statement) { return sqlite3_exec(m_db, statement, nullptr, nullptr, nullptr); }
+
+int LogDatabase::insertOne(const LogRow& row, qint64& rowid) {
   const std::array<QByteArray, 7> texts{columnText(row.OriginalName), columnText(row.NewName),
                                         columnText(row.InputFolder),  columnText(row.OutputFolder),
                                         columnText(row.Track),        columnText(row.EventTime),
                                         columnText(row.Notes)};
-  const std::lock_guard lock(m_mutex);
   int code = SQLITE_OK;
   if (!m_insert) code = sqlite3_prepare_v3(m_db, InsertRow, -1, SQLITE_PREPARE_PERSISTENT, &m_insert, nullptr);
   for (int i = 0; code == SQLITE_OK && i < static_cast<int>(texts.size()); ++i)
     code = sqlite3_bind_text64(m_insert, i + 1, texts[i].constData(), static_cast<sqlite3_uint64>(texts[i].size()),
                                SQLITE_STATIC, SQLITE_UTF8);
   if (code == SQLITE_OK) code = sqlite3_step(m_insert);
-  std::optional<qint64> rowid;
-  if (code == SQLITE_DONE)
-    rowid = sqlite3_last_insert_rowid(m_db);
-  else if (error)
-    *error = words(m_db, m_file);
+  if (code == SQLITE_DONE) rowid = sqlite3_last_insert_rowid(m_db);
   // The outcome is known already; the reset repeats its code.
   sqlite3_reset(m_insert);
   if (m_insert) sqlite3_clear_bindings(m_insert);
-  return rowid;
+  return code == SQLITE_DONE ? SQLITE_OK : code;
+}
+
+std::optional<qint64> LogDatabase::insert(const LogRow& row, QString* error) {
+  const std::vector<qint64> rowids = insertAll({row}, error);
+  return rowids.empty() ? std::nullopt : std::optional(rowids.front());
+}
+
+std::vector<qint64> LogDatabase::insertAll(const std::vector<LogRow>& rows, QString* error) {
+  std::vector<qint64> rowids(rows.size());
+  const bool grouped = rows.size() > 1;  // one row is a transaction by itself
+  const std::lock_guard lock(m_mutex);
+  int code = grouped ? run("begin immediate") : SQLITE_OK;
+  for (size_t i = 0; code == SQLITE_OK && i < rows.size(); ++i) code = insertOne(rows[i], rowids[i]);
+  if (code == SQLITE_OK && grouped) code = run("commit");
+  if (code == SQLITE_OK) return rowids;
+  if (error) *error = words(m_db, m_file);
+  if (sqlite3_get_autocommit(m_db) == 0) (void)run("rollback");  // it fails only where SQLite has done so itself
+  return {};
+}
+
+bool LogDatabase::deleteAll(QString* error) {
+  const std::lock_guard lock(m_mutex);
+  const bool done = sqlite3_exec(m_db, "delete from log", nullptr, nullptr, nullptr) == SQLITE_OK;
+  if (!done && error) *error = words(m_db, m_file);
+  return done;
 }
 
 namespace VantryUtil {

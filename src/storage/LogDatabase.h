@@ -1,6 +1,7 @@
 #pragma once
 // The event log: one SQLite file with the table `log`. This is its one writer; a viewer opens a connection of its own
-// for reading. Guarded inside; rows are written on the upload thread and the one beside it.
+// for reading. Guarded inside; rows are written on the upload thread and the one beside it, and deleted on one of the
+// viewer's.
 
 #include <QString>
 #include <QStringList>
@@ -8,6 +9,7 @@
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <vector>
 
 #include "platform/FolderItem.h"
 
@@ -34,10 +36,18 @@ class LogDatabase {
 
   /// Inserts one row, durable when this returns; gives its row id, or nothing with the reason in `error`.
   [[nodiscard]] std::optional<qint64> insert(const LogRow& row, QString* error);
+  /// Deletes all rows as one change; false with the reason in `error`. Inserts wait meanwhile and none is lost.
+  [[nodiscard]] bool deleteAll(QString* error);
+  /// The same for several in their order, durable together; all of them or none.
+  [[nodiscard]] std::vector<qint64> insertAll(const std::vector<LogRow>& rows, QString* error);
   [[nodiscard]] const FolderItem& file() const { return m_file; }
 
  private:
   LogDatabase(const FolderItem& file, sqlite3* db) : m_file(file), m_db(db) {}
+  /// Under the mutex; an SQLite result code.
+  [[nodiscard]] int run(const char* statement);
+  [[nodiscard]] int insertOne(const LogRow& row, qint64& rowid);
+
   FolderItem m_file;
   std::mutex m_mutex;  // guards the two below
   sqlite3* m_db;

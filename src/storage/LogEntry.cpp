@@ -33,24 +33,31 @@ void LogEntry::setRowObserver(std::function<void(qint64 rowid)> observer) {
   rowObserver = std::move(observer);
 }
 
-void LogEntry::WriteToLog() {
-  if (!logDB) return;
-  const auto text = [this](const QString& key) { return Lookup(key, u"n/a"_s).toString(); };
-  const LogRow row{.OriginalName = text(u"OriginalName"_s),
-                   .NewName = text(u"NewName"_s),
-                   .InputFolder = text(u"InputFolder"_s),
-                   .OutputFolder = text(u"OutputFolder"_s),
-                   .Track = text(u"Track"_s),
-                   .EventTime = Date().local().toString(u"yyyy-MM-dd HH:mm:ss"),
-                   .Notes = text(u"Notes"_s)};
+static LogRow rowFrom(const LogEntry& entry) {
+  const auto text = [&entry](const QString& key) { return entry.Lookup(key, u"n/a"_s).toString(); };
+  return {.OriginalName = text(u"OriginalName"_s),
+          .NewName = text(u"NewName"_s),
+          .InputFolder = text(u"InputFolder"_s),
+          .OutputFolder = text(u"OutputFolder"_s),
+          .Track = text(u"Track"_s),
+          .EventTime = Date().local().toString(u"yyyy-MM-dd HH:mm:ss"),
+          .Notes = text(u"Notes"_s)};
+}
+
+void LogEntry::WriteToLog() { writeAll({*this}); }
+
+void LogEntry::writeAll(const std::vector<LogEntry>& entries) {
+  if (!logDB || entries.empty()) return;
+  std::vector<LogRow> rows;
+  for (const LogEntry& entry : entries) rows.push_back(rowFrom(entry));
   QString error;
-  const auto rowid = logDB->insert(row, &error);
-  if (!rowid) {
+  const std::vector<qint64> rowids = logDB->insertAll(rows, &error);
+  if (rowids.empty()) {
     Problems::raise(Problem::Kind::LogRowLost, {}, error);
     return;
   }
   Problems::clear(Problem::Kind::LogRowLost, {});
-  tellObserver(*rowid);
+  for (const qint64 rowid : rowids) tellObserver(rowid);
 }
 
 }  // namespace VantryUtil

@@ -61,6 +61,15 @@ QString loadAccountPreferences() {
   return setAsideAs;
 }
 
+bool savePreferences(DictionaryFile& preferences) {
+  const bool saved = preferences.save();
+  if (saved)
+    Problems::clear(Problem::Kind::PreferencesNotSaved, {});
+  else
+    Problems::raise(Problem::Kind::PreferencesNotSaved, {}, preferences.lastFailure().message());
+  return saved;
+}
+
 void loadProxySettings() {
   const qint64 port = prefs->integerValue(u"ProxyPort"_s);
   const bool possible = port >= 1 && port <= 65535;

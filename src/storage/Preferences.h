@@ -16,6 +16,8 @@ extern std::shared_ptr<DictionaryFile> prefs;
 /// under a new name and the program goes on as at first start; the new name is given back, empty when all was well.
 /// Raises Problem::PreferencesSetAside. Main thread, before any other thread uses prefs.
 QString loadAccountPreferences();
+/// Writes the preferences; a failure is told by Problem::PreferencesNotSaved, which it raises. Blocks for the disk.
+bool savePreferences(DictionaryFile& preferences);
 /// Brings ProxyAddress and ProxyPort from prefs into force.
 void loadProxySettings();
 

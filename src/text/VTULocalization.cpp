@@ -1,15 +1,13 @@
 #include "text/VTULocalization.h"
 
-#include <QCoreApplication>
-
+#include "platform/Mount.h"
+#include "platform/System.h"
 #include "text/Placeholders.h"
 
 namespace VTULocalization {
 
-QString _GetLocalizedString(const char* key, const char* defaultText, const QString& /*language*/) {
-  const QString found = qtTrId(key);
-  const bool translated = !found.isEmpty() && found != QLatin1String(key);
-  return translated ? found : QString::fromUtf8(defaultText);
+QString _GetLocalizedString(const char* key, const char* defaultText, const QString& language) {
+  return System::_GetLocalizedString(key, defaultText, language);
 }
 
 QList<Entry> entries() {
@@ -20,12 +18,27 @@ QList<Entry> entries() {
 #include "text/Messages.inc"
 
 #include "text/TaskMessages.inc"
+
+#include "text/LogMessages.inc"
+
+#include "text/AdminMessages.inc"
+
+#include "text/ServiceReasons.inc"
 #undef VTU_CONSTANT
 #define VTU_CONSTANT(name, english) {"EditTaskWindow." #name, english},
 #include "text/EditTaskWindowText.inc"
 #undef VTU_CONSTANT
+#define VTU_CONSTANT(name, english) {"MainMenuBar." #name, english},
+#include "text/MenuText.inc"
+#undef VTU_CONSTANT
 #define VTU_CONSTANT(name, english) {"VantryUtil." #name, english},
 #include "text/ServiceErrors.inc"
+#undef VTU_CONSTANT
+#define VTU_CONSTANT(name, english) {"VTUploaderMainWIndow." #name, english},
+#include "text/MonitorText.inc"
+#undef VTU_CONSTANT
+#define VTU_CONSTANT(name, english) {"Reasons." #name, english},
+#include "platform/Reasons.inc"
 #undef VTU_CONSTANT
   };
 }
@@ -37,6 +50,12 @@ QList<Entry> entries() {
 #include "text/Messages.inc"
 
 #include "text/TaskMessages.inc"
+
+#include "text/LogMessages.inc"
+
+#include "text/AdminMessages.inc"
+
+#include "text/ServiceReasons.inc"
 #undef VTU_CONSTANT
 
 static QString textOf(Problem::Kind kind) {
@@ -63,6 +82,12 @@ static QString textOf(Problem::Kind kind) {
       return klStripExclusionTooCostly();
     case Problem::Kind::InputFolderUnreadable:
       return klStripInputFolderUnreadable();
+    case Problem::Kind::FolderSilent:
+      return klStripFolderSilent();
+    case Problem::Kind::NothingMounted:
+      return klStripNothingMounted();
+    case Problem::Kind::ShareNotMounted:
+      return klStripShareNotMounted();
     case Problem::Kind::CopyFailed:
       return klStripCopyFailed();
     case Problem::Kind::UploadFailed:
@@ -82,6 +107,29 @@ static QString onOneLine(QString text) {
   return text;
 }
 
+QString mountFailureText(int errorCode) {
+  switch (errorCode) {
+    case MountError::NoSession:
+      return klMountNoSession();
+    case MountError::LoginRefused:
+      return klMountLoginRefused();
+    case MountError::Question:
+      return klMountQuestion();
+    case MountError::Unreachable:
+      return klMountUnreachable();
+    case MountError::NotThere:
+      return klMountNotThere();
+    case MountError::TimedOut:
+      return klMountTimedOut();
+    case MountError::NotSupported:
+      return klMountNotSupported();
+    case MountError::NoFolder:
+      return klMountNoFolder();
+    default:  // a code of the system's
+      return fillPlaceholders(klMountFailed(), {QString::number(errorCode)});
+  }
+}
+
 QString problemText(const Problem& problem) {
   return fillPlaceholders(textOf(problem.kind), {onOneLine(problem.subject), onOneLine(problem.detail)});
 }
@@ -95,6 +143,15 @@ QString problemText(const Problem& problem) {
 namespace EditTaskWindowText {
 #include "text/EditTaskWindowText.inc"
 }  // namespace EditTaskWindowText
+#undef VTU_CONSTANT
+
+#define VTU_CONSTANT(name, english)                                                       \
+  QString name(const QString& language) {                                                 \
+    return VTULocalization::_GetLocalizedString("MainMenuBar." #name, english, language); \
+  }
+namespace MenuText {
+#include "text/MenuText.inc"
+}  // namespace MenuText
 #undef VTU_CONSTANT
 
 #define VTU_CONSTANT(name, english)                                                      \

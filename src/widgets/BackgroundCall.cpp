@@ -61,7 +61,8 @@ void handOver(std::function<void()> answer) {
     const std::lock_guard lock(answers().mutex);
     answers().waiting.push_back(std::move(answer));
   }
-  QMetaObject::invokeMethod(qApp, [] { handOverNext(); }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(
+      qApp, [] { handOverNext(); }, Qt::QueuedConnection);
 }
 
 }  // namespace
@@ -78,8 +79,8 @@ BackgroundCall::BackgroundCall(const char* threadName, QObject* parent)
 
 BackgroundCall::~BackgroundCall() { cancel(); }
 
-void BackgroundCall::begin(int limitMs, std::function<void(const Cancelled&)> work, std::function<bool()> finish,
-                           std::function<void()> slow) {
+void BackgroundCall::begin(int limitMs, std::function<void(const Cancelled&, const Post&)> work,
+                           std::function<bool()> finish, std::function<void()> slow) {
   cancel();
   m_job = std::make_shared<Job>();
   m_finish = std::move(finish);
@@ -87,8 +88,13 @@ void BackgroundCall::begin(int limitMs, std::function<void(const Cancelled&)> wo
   const auto body = [job = m_job, threads = m_threads, work = std::move(work), name = m_threadName,
                      owner = QPointer<BackgroundCall>(this)]() mutable {
     System::nameThisThread(name);
+    const Post post = [owner, job](std::function<void()> call) {
+      handOver([owner, job, call = std::move(call)] {
+        if (owner && owner->m_job == job) call();
+      });
+    };
     try {
-      work([job] { return job->cancelled.load(); });
+      work([job] { return job->cancelled.load(); }, post);
     } catch (const std::exception& e) {
       System::DebugLog(QString::fromUtf8(e.what()));  // the owner learns that no answer came
     }

@@ -26,11 +26,20 @@ class BackgroundCall : public QObject {
   template <typename Result>
   void run(int limitMs, std::function<Result(const Cancelled&)> work, std::function<void(const Result&)> done,
            std::function<void()> slow = {}) {
+    runInPieces<int, Result>(
+        limitMs, [work = std::move(work)](const Cancelled& cancelled, const auto&) { return work(cancelled); }, {},
+        std::move(done), std::move(slow));
+  }
+  /// The same for work that gives pieces on its way: each is handed to `piece`, in order and before `done`.
+  template <typename Piece, typename Result>
+  void runInPieces(int limitMs, std::function<Result(const Cancelled&, const std::function<void(Piece)>&)> work,
+                   std::function<void(const Piece&)> piece, std::function<void(const Result&)> done,
+                   std::function<void()> slow = {}) {
     auto result = std::make_shared<Slot<Result>>();
     begin(
         limitMs,
-        [result, work = std::move(work)](const Cancelled& cancelled) {
-          Result value = work(cancelled);
+        [result, work = std::move(work), piece = std::move(piece)](const Cancelled& cancelled, const Post& post) {
+          Result value = work(cancelled, [&](Piece one) { post([piece, one = std::move(one)] { piece(one); }); });
           const std::lock_guard lock(result->mutex);
           result->value = std::move(value);
         },
@@ -56,7 +65,9 @@ class BackgroundCall : public QObject {
     std::mutex mutex;  // guards value
     std::optional<Result> value;
   };
-  void begin(int limitMs, std::function<void(const Cancelled&)> work, std::function<bool()> finish,
+  /// Has something called on the main thread, unless the call is no longer waited for by then.
+  using Post = std::function<void(std::function<void()>)>;
+  void begin(int limitMs, std::function<void(const Cancelled&, const Post&)> work, std::function<bool()> finish,
              std::function<void()> slow);
   void ended(const std::shared_ptr<Job>& job);
   void tellSlow();

@@ -20,12 +20,13 @@ bool askYesNo(QWidget* parent, const QString& question) {
   return box.clickedButton() == yes;
 }
 
-void tell(QWidget* parent, const QString& text, bool warning) {
+void tell(QWidget* parent, const QString& text, bool warning, const QString& more) {
   QMessageBox box(parent);
   box.setWindowTitle(QString::fromUtf8(AppDisplayName));
   box.setIcon(warning ? QMessageBox::Warning : QMessageBox::Information);
   box.setTextFormat(Qt::PlainText);
   box.setText(text);
+  box.setInformativeText(more);
   box.addButton(QMessageBox::Ok);
   box.exec();
 }

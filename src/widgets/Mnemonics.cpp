@@ -1,9 +1,21 @@
 #include "widgets/Mnemonics.h"
 
+#include <algorithm>
+#include <iterator>
+
+/// Kana, Han and Hangul characters are typed, but are no keys.
+static bool isKey(QChar c) {
+  constexpr QChar::Script Typed[] = {QChar::Script_Han, QChar::Script_Hiragana, QChar::Script_Katakana,
+                                     QChar::Script_Hangul};
+  const bool lengthMark = c == QChar(0x30FC);  // of the kana, in no script of its own
+  return c.isLetterOrNumber() && !lengthMark &&
+         std::find(std::begin(Typed), std::end(Typed), c.script()) == std::end(Typed);
+}
+
 static qsizetype freeLetter(const QString& caption, const QSet<QChar>& used, bool atWordsOnly) {
   for (qsizetype i = 0; i < caption.size(); ++i) {
     const bool beginsWord = i == 0 || !caption[i - 1].isLetterOrNumber();
-    if (caption[i].isLetterOrNumber() && (beginsWord || !atWordsOnly) && !used.contains(caption[i].toLower())) return i;
+    if (isKey(caption[i]) && (beginsWord || !atWordsOnly) && !used.contains(caption[i].toLower())) return i;
   }
   return -1;
 }

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QGridLayout>
 #include <QLabel>
 
@@ -25,6 +26,19 @@ void PathChooser::choose(What what, const Texts& texts, const std::optional<Fold
       });
 }
 
+namespace {
+/// The toolkit's own looks into each file to tell its type, on the main thread.
+class PlainIcons : public QFileIconProvider {
+ public:
+  [[nodiscard]] QIcon icon(const QFileInfo& info) const override {
+    return QFileIconProvider::icon(info.isDir() ? Folder : File);
+  }
+  [[nodiscard]] QString type(const QFileInfo& info) const override {
+    return info.isDir() ? QFileDialog::tr("Directory") : QFileDialog::tr("File");
+  }
+};
+}  // namespace
+
 /// Puts the prompt above everything else in the toolkit's own dialog, which knows none.
 static void addPrompt(QFileDialog& dialog, const QString& prompt) {
   auto* const grid = qobject_cast<QGridLayout*>(dialog.layout());
@@ -43,8 +57,22 @@ void PathChooser::open(What what, const Texts& texts, const QString& directory) 
   // The toolkit's own: it shows the prompt, and it reads folders on a thread.
   dialog->setOption(QFileDialog::DontUseNativeDialog);
   dialog->setOption(QFileDialog::DontUseCustomDirectoryIcons);
+  static auto* const icons = new PlainIcons;  // never destroyed: the dialog's thread asks it, too
+  dialog->setIconProvider(icons);
   dialog->setOption(QFileDialog::ShowDirsOnly, what == What::Folder);
-  dialog->setFileMode(what == What::Folder ? QFileDialog::Directory : QFileDialog::ExistingFile);
+  switch (what) {
+    case What::Folder:
+      dialog->setFileMode(QFileDialog::Directory);
+      break;
+    case What::File:
+      dialog->setFileMode(QFileDialog::ExistingFile);
+      break;
+    case What::NewFile:
+      dialog->setAcceptMode(QFileDialog::AcceptSave);
+      dialog->setFileMode(QFileDialog::AnyFile);
+      dialog->selectFile(texts.proposedName);
+      break;
+  }
   dialog->setLabelText(QFileDialog::Accept, texts.actionButton);
   dialog->setLabelText(QFileDialog::Reject, texts.cancelButton);
   addPrompt(*dialog, texts.prompt);

@@ -1,6 +1,7 @@
 #pragma once
-// Lets the user choose a folder or a file, modal to one window, without ever waiting for a share on the main thread:
-// the place where the dialog begins is asked for in the background, and left out if it doesn't answer. Main thread.
+// Lets the user choose a folder, a file or the name of a new one, modal to one window, without ever waiting for a share
+// on the main thread: the place where the dialog begins is asked for in the background, and left out if it doesn't
+// answer. Main thread.
 
 #include <QPointer>
 #include <QWidget>
@@ -14,9 +15,10 @@ class QFileDialog;
 
 class PathChooser : public QObject {
  public:
-  enum class What { Folder, File };
+  enum class What { Folder, File, NewFile };
   struct Texts {
     QString title, actionButton, cancelButton, prompt;
+    QString proposedName = {};  ///< of a new file
   };
   explicit PathChooser(QWidget* window);
 

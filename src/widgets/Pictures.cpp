@@ -1,5 +1,6 @@
 #include "widgets/Pictures.h"
 
+#include <QFile>
 #include <QHash>
 #include <QPainter>
 #include <QPixmapCache>
@@ -7,6 +8,8 @@
 #include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
+
+static constexpr int LargestSmall = 32;  // edge up to which the icon's simpler drawing serves
 
 // A static library's resources are linked in only when somebody names them.
 static void initPictures() { Q_INIT_RESOURCE(resources); }
@@ -16,7 +19,8 @@ namespace Pictures {
 static QString pathOf(const QString& name) {
   static const bool ready = (initPictures(), true);
   Q_UNUSED(ready)
-  return u":/pictures/"_s + name + u".svg"_s;
+  const QString whole = u":/pictures/"_s + name;
+  return QFile::exists(whole) ? whole : whole + u".svg"_s;
 }
 
 QSize size(const QString& name) {
@@ -49,8 +53,8 @@ QPixmap load(const QString& name, qreal devicePixelRatio, QSize logicalSize) {
 
 QIcon programIcon() {
   QIcon icon;
-  for (const int edge : {16, 24, 32, 48, 64, 128, 256})
-    icon.addPixmap(load(u"vantry-uploader"_s, 1, QSize(edge, edge)));
+  for (const int edge : {16, 22, 24, 32, 48, 64, 128, 256, 512})
+    icon.addPixmap(load(edge <= LargestSmall ? u"vantry-uploader-small"_s : u"vantry-uploader"_s, 1, {edge, edge}));
   return icon;
 }
 

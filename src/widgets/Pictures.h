@@ -1,6 +1,6 @@
 #pragma once
-// The program's own pictures by name, drawn for the pixels of the screen that asks. Main thread; drawn pictures are
-// kept in QPixmapCache.
+// The program's own pictures by name (".svg" may be left out), drawn for the pixels of the screen that asks. Main
+// thread; drawn pictures are kept in QPixmapCache.
 
 #include <QIcon>
 #include <QPixmap>

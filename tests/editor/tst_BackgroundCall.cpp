@@ -9,7 +9,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-/// Lets hanging work go when the test ends, whatever way that is.
+/// A call whose work waits until it is let go, at the latest when the test ends.
 class Gate {
  public:
   ~Gate() {
@@ -18,6 +18,7 @@ class Gate {
   }
   void wait() { m_open.acquire(); }
   void open() { m_open.release(); }
+  std::unique_ptr<BackgroundCall> call = std::make_unique<BackgroundCall>("test", nullptr);
 
  private:
   QSemaphore m_open;
@@ -25,45 +26,48 @@ class Gate {
 
 class tst_BackgroundCall : public QObject {
   Q_OBJECT
-
  private slots:
-  void theResultComesBackOnTheMainThread() {
+  void theResultComesBackOnTheMainThreadAlsoWhenTheCallIsSlow() {
     Gate gate;
-    BackgroundCall call("test", nullptr);
-    const Qt::HANDLE self = QThread::currentThreadId();
-    Qt::HANDLE worker = self, answered = nullptr;
-    QString result;
-    call.run<QString>(
-        0,
-        [&worker](const auto&) {
-          worker = QThread::currentThreadId();
-          return u"done"_s;
-        },
-        [&](const QString& text) {
-          answered = QThread::currentThreadId();
-          result = text;
-        });
-    QVERIFY(call.running());
-    QTRY_COMPARE(result, u"done"_s);
-    QVERIFY(worker != self && answered == self);
-    QVERIFY(!call.running());
-  }
-
-  void aSlowCallIsToldOnceAndItsResultStillCounts() {
-    Gate gate;
-    BackgroundCall call("test", nullptr);
+    QThread *worker = nullptr, *answered = nullptr;
     int slow = 0, result = 0;
-    call.run<int>(
-        20,
-        [&gate](const auto&) {
-          gate.wait();
-          return 7;
-        },
-        [&result](int value) { result = value; }, [&slow] { ++slow; });
+    const auto work = [&](const auto&) {
+      worker = QThread::currentThread();
+      gate.wait();
+      return 7;
+    };
+    const auto done = [&](int value) {
+      answered = QThread::currentThread();
+      result = value;
+    };
+    gate.call->run<int>(20, work, done, [&slow] { ++slow; });
     QTRY_COMPARE(slow, 1);
+    QVERIFY(gate.call->running());
     gate.open();
     QTRY_COMPARE(result, 7);
+    QVERIFY(worker != thread() && answered == thread() && !gate.call->running());
     QCOMPARE(slow, 1);
+  }
+
+  void piecesComeInOrderBeforeTheResultAndNoneAfterACancel() {
+    Gate gate;
+    QList<int> taken;
+    for (const bool cancelAtThree : {false, true}) {
+      taken.clear();
+      const auto work = [](const auto&, const std::function<void(int)>& hand) {
+        for (int i = 1; i <= 5; ++i) hand(i);
+        return 6;
+      };
+      const auto piece = [&](int value) {
+        taken << value;
+        if (cancelAtThree && value == 3) gate.call->cancel();
+      };
+      gate.call->runInPieces<int, int>(0, work, piece, [&](int result) { taken << result; });
+      QTRY_COMPARE(taken.size(), cancelAtThree ? 3 : 6);
+      QVERIFY(BackgroundCall::waitForAll(10'000));
+      QCoreApplication::processEvents();
+      QCOMPARE(taken, QList<int>({1, 2, 3, 4, 5, 6}).first(cancelAtThree ? 3 : 6));
+    }
   }
 
   void anAnswerThatNobodyWaitsForIsDropped_data() {
@@ -75,22 +79,20 @@ class tst_BackgroundCall : public QObject {
   void anAnswerThatNobodyWaitsForIsDropped() {
     QFETCH(int, how);
     Gate gate;
-    auto call = std::make_unique<BackgroundCall>("test", nullptr);
     QStringList answers;
     std::atomic<bool> toldToStop{false};
-    call->run<QString>(
-        0,
-        [&](const BackgroundCall::Cancelled& cancelled) {
-          gate.wait();
-          toldToStop = cancelled();
-          return u"old"_s;
-        },
-        [&](const QString& text) { answers << text; });
-    if (how == 0) call->cancel();
+    const auto done = [&](const QString& text) { answers << text; };
+    const auto work = [&](const BackgroundCall::Cancelled& cancelled) {
+      gate.wait();
+      toldToStop = cancelled();
+      return u"old"_s;
+    };
+    gate.call->run<QString>(0, work, done);
+    if (how == 0) gate.call->cancel();
     if (how == 1)
-      call->run<QString>(
-          0, [](const auto&) { return u"new"_s; }, [&](const QString& text) { answers << text; });
-    if (how == 2) call.reset();
+      gate.call->run<QString>(
+          0, [](const auto&) { return u"new"_s; }, done);
+    if (how == 2) gate.call.reset();
     gate.open();
     QVERIFY(BackgroundCall::waitForAll(10'000));
     QVERIFY(toldToStop);
@@ -99,35 +101,25 @@ class tst_BackgroundCall : public QObject {
     QCOMPARE(answers.size(), how == 1 ? 1 : 0);
   }
 
-  void workThatThrowsIsNoAnswer() {
+  void workThatThrowsIsNoAnswerAndThreadsThatHangDoNotPileUp() {
     Gate gate;
-    BackgroundCall call("test", nullptr);
     int slow = 0, done = 0;
-    call.run<int>(
-        0, [](const auto&) -> int { throw std::runtime_error("planted"); }, [&](int) { ++done; }, [&] { ++slow; });
+    const auto tellSlow = [&slow] { ++slow; };
+    const auto fail = [](const auto&) -> int { throw std::runtime_error("planted"); };
+    gate.call->run<int>(
+        0, fail, [&](int) { ++done; }, tellSlow);
     QTRY_COMPARE(slow, 1);
-    QCOMPARE(done, 0);
-    QVERIFY(!call.running());
-  }
-
-  void threadsThatHangDoNotPileUp() {
-    Gate gate;
-    BackgroundCall call("test", nullptr);
+    QVERIFY(done == 0 && !gate.call->running());
     std::atomic<int> begun{0};
-    int slow = 0;
-    for (int i = 0; i < 20; ++i)
-      call.run<int>(
-          60'000,
-          [&](const auto&) {
-            ++begun;
-            gate.wait();
-            return 0;
-          },
-          {}, [&slow] { ++slow; });
-    QTRY_COMPARE(slow, 1);
+    const auto hang = [&](const auto&) {
+      ++begun;
+      gate.wait();
+      return 0;
+    };
+    for (int i = 0; i < 20; ++i) gate.call->run<int>(60'000, hang, {}, tellSlow);
+    QTRY_COMPARE(slow, 2);
     QVERIFY2(begun <= 4, qPrintable(QString::number(begun)));
-    QVERIFY(!call.running());
-    QVERIFY(!BackgroundCall::waitForAll(0));
+    QVERIFY(!gate.call->running() && !BackgroundCall::waitForAll(0));
   }
 };
 

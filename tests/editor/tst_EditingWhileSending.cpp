@@ -1,10 +1,5 @@
 // The editor is used from the main window while the upload thread works: a batch is held open at the service.
 
-#include <QApplication>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTest>
-#include <QTimer>
 #include <QTreeView>
 
 #include "editor/EditTaskWindow.h"
@@ -13,6 +8,7 @@
 #include "monitor/VTUploaderMainWIndow.h"
 #include "service/VTTrack.h"
 #include "support/EngineBench.h"
+#include "support/ProgramHome.h"
 #include "support/TestRunner.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -25,14 +21,12 @@ class Bench {
     track.TrackName = u"Coated"_s;
     track.TrackWorkflowName = PracticeService::knownPrintTrack();
     VTTrack::setTracks({track});
-    task = engine.makeTask(u"Press"_s);
     if (!task->save(UploaderTask::TaskDirectory().Child(u"press.VNT"_s))) qFatal("cannot store a task");
     UploaderTask::addTask(task);
     MainWindowCommands commands;
-    commands.beginStartUp = [](const StartUp::Events&) {};
+    commands.beginStartUp = [](const StartUp::Events& events) { events.tasksLoaded(); };
     commands.editTask = [this](const TaskPointer& edited) {
-      ++opened;
-      return EditTaskWindow::EditTask(edited, window.get());
+      return ++opened, EditTaskWindow::EditTask(edited, window.get());
     };
     window = std::make_unique<VTUploaderMainWIndow>(commands);
     window->show();
@@ -52,80 +46,71 @@ class Bench {
     UploadThread::Start();
     if (!engine.service.waitForHeld(1, 10'000)) qFatal("the batch did not begin");
   }
-  /// Presses Edit, and does that while the dialog is open; it must close the dialog.
-  void edit(const std::function<void(EditTaskWindow&)>& whileOpen) {
-    QTimer poll;
-    QObject::connect(&poll, &QTimer::timeout, window.get(), [&] {
-      auto* const dialog = qobject_cast<EditTaskWindow*>(QApplication::activeModalWidget());
-      if (!dialog) return;
-      poll.stop();
-      whileOpen(*dialog);
-      dialog->reject();
-    });
-    poll.start(5);
-    auto* const list = window->findChild<QTreeView*>(u"TaskList"_s);
+  void endBatch() {
+    engine.service.release();
+    QTRY_VERIFY_WITH_TIMEOUT(!UploadThread::ProcessingNow(), 20'000);
+  }
+  void pressEdit() {
+    auto* const list = controlOf<QTreeView>(*window, "TaskList");
     list->setCurrentIndex(list->model()->index(0, 0));
     press(*window, "EditButton");
   }
-  static void press(QWidget& in, const char* button) {
-    in.findChild<QPushButton*>(QString::fromLatin1(button))->click();
+  /// Presses Edit, and does that while the dialog is open.
+  void edit(const std::function<void(EditTaskWindow&)>& whileOpen) {
+    const Inside<EditTaskWindow> dialog([&](EditTaskWindow& open) {
+      whileOpen(open);
+      open.reject();
+    });
+    pressEdit();
   }
-  static bool canSave(const QWidget& dialog) { return dialog.findChild<QPushButton*>(u"OkButton"_s)->isEnabled(); }
+  static void press(QWidget& in, const char* button) { controlOf<QPushButton>(in, button)->click(); }
   /// Runs the upload thread until these files have arrived in all, in that order.
   void runUntil(const QStringList& received) {
     UploadThread::Start();
     QTRY_COMPARE_WITH_TIMEOUT(engine.received(), received, 20'000);
-    QTRY_VERIFY_WITH_TIMEOUT(!UploadThread::ProcessingNow(), 20'000);
+    endBatch();
   }
 
   EngineBench engine;
-  TaskPointer task;
+  TaskPointer task = engine.makeTask(u"Press"_s);
   std::unique_ptr<VTUploaderMainWIndow> window;
   int opened = 0;
 };
 
 class tst_EditingWhileSending : public QObject {
   Q_OBJECT
-
  private slots:
   void noRunBeginsWhileTheEditorIsOpen() {
     Bench bench;
     bench.beginBatch();
     QVERIFY(bench.task->Busy);
-    bench.edit([&](EditTaskWindow& dialog) {
+    bench.edit([&](EditTaskWindow&) {
       QVERIFY(!UploadThread::Enabled);
-      bench.engine.service.release();
-      QTRY_VERIFY(!UploadThread::ProcessingNow());
-      QCOMPARE(bench.engine.received(), QStringList{u"a.txt"_s});
+      bench.endBatch();
       bench.engine.clock.advance(100);
       bench.engine.drop(u"b.txt"_s);
       UploadThread::Start();
       QTRY_VERIFY(!UploadThread::ProcessingNow());
-      QCOMPARE(bench.engine.received().size(), 1);
-      Bench::press(dialog, "CancelDialogButton");
+      QCOMPARE(bench.engine.received(), QStringList{u"a.txt"_s});
     });
-    QCOMPARE(bench.opened, 1);
-    QVERIFY(UploadThread::Enabled && !bench.task->Busy);
-    bench.runUntil((QStringList{u"a.txt"_s, u"b.txt"_s}));
+    QVERIFY(bench.opened == 1 && UploadThread::Enabled && !bench.task->Busy);
+    bench.runUntil({u"a.txt"_s, u"b.txt"_s});
   }
 
   void aTaskReplacedDuringItsBatchSendsNothingTwice() {
     Bench bench;
     bench.beginBatch();
     bench.edit([&](EditTaskWindow& dialog) {
-      QTRY_VERIFY(Bench::canSave(dialog));
+      QTRY_VERIFY(controlOf<QPushButton>(dialog, "OkButton")->isEnabled());
       Bench::press(dialog, "OkButton");
     });
-    QVERIFY(UploadThread::Enabled);
     const TaskPointer replaced = UploaderTask::allTasks().first();
-    QVERIFY(replaced != bench.task);
-    bench.engine.service.release();
-    QTRY_VERIFY(!UploadThread::ProcessingNow());
-    QCOMPARE(bench.task->UploadedCount.load(), 1);
+    QVERIFY(UploadThread::Enabled && replaced != bench.task);
+    bench.endBatch();
     bench.engine.clock.advance(100);
     bench.engine.drop(u"b.txt"_s);
-    bench.runUntil((QStringList{u"a.txt"_s, u"b.txt"_s}));
-    QCOMPARE(replaced->UploadedCount.load(), 1);
+    bench.runUntil({u"a.txt"_s, u"b.txt"_s});
+    QVERIFY(bench.task->UploadedCount == 1 && replaced->UploadedCount == 1);
   }
 
   void aDateClearedDuringABatchStaysCleared() {
@@ -135,20 +120,13 @@ class tst_EditingWhileSending : public QObject {
     bench.engine.clock.advance(100);
     bench.beginBatch();
     bench.edit([&](EditTaskWindow& dialog) {
-      QTimer yes;
-      connect(&yes, &QTimer::timeout, this, [] {
-        if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
-          box->button(QMessageBox::Yes)->click();
-      });
-      yes.start(5);
+      const BoxAnswer yes(QMessageBox::Yes);
       Bench::press(dialog, "ClearProcessDateStampButton");
       QTRY_COMPARE(storedDateLimit(u"Press"_s), 0.0);
-      bench.engine.service.release();
-      QTRY_VERIFY(!UploadThread::ProcessingNow());
-      Bench::press(dialog, "CancelDialogButton");
+      bench.endBatch();
     });
     QCOMPARE(storedDateLimit(u"Press"_s), 0.0);
-    bench.runUntil((QStringList{u"earlier.txt"_s, u"a.txt"_s, u"a.txt"_s, u"earlier.txt"_s}));
+    bench.runUntil({u"earlier.txt"_s, u"a.txt"_s, u"a.txt"_s, u"earlier.txt"_s});
     QTRY_VERIFY(storedDateLimit(u"Press"_s) > 0);
   }
 
@@ -156,21 +134,10 @@ class tst_EditingWhileSending : public QObject {
     Bench bench;
     bench.beginBatch();
     bench.task->disabled = true;
-    QString told;
-    QTimer ok;
-    connect(&ok, &QTimer::timeout, this, [&] {
-      auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      if (!box) return;
-      told = box->text();
-      box->button(QMessageBox::Ok)->click();
-    });
-    ok.start(5);
-    auto* const list = bench.window->findChild<QTreeView*>(u"TaskList"_s);
-    list->setCurrentIndex(list->model()->index(0, 0));
-    Bench::press(*bench.window, "EditButton");
-    QCOMPARE(told, u"This task is currently processing. Please try again in a moment"_s);
-    QCOMPARE(bench.opened, 0);
-    QVERIFY(UploadThread::Enabled);
+    const BoxAnswer told(QMessageBox::Ok);
+    bench.pressEdit();
+    QCOMPARE(told.text(), u"This task is currently processing. Please try again in a moment"_s);
+    QVERIFY(bench.opened == 0 && UploadThread::Enabled);
   }
 };
 

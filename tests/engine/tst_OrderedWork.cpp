@@ -1,4 +1,3 @@
-#include <QTest>
 #include <algorithm>
 #include <atomic>
 #include <numeric>
@@ -12,54 +11,43 @@ class tst_OrderedWork : public QObject {
   Q_OBJECT
 
  private slots:
-  void jobsRunInTheirOrderAndFewWait() {
-    constexpr int jobs = 500;
-    std::vector<int> order, expected(jobs);
+  void itemsKeepTheirOrderAndFewWait() {
+    constexpr int items = 500;
+    std::vector<int> order, expected(items);
     std::iota(expected.begin(), expected.end(), 0);
     std::atomic<int> given{0};
     int mostAhead = 0;
-    OrderedWork work;
-    for (int i = 0; i < jobs; ++i) {
-      work.add([&, i] {
-        mostAhead = std::max(mostAhead, given.load() - i);
-        order.push_back(i);
-      });
-      ++given;
-    }
-    work.wait();
-    QCOMPARE(order, expected);
-    QVERIFY2(mostAhead <= 5, qPrintable(QString::number(mostAhead)));  // four wait beside the one that runs
-  }
-
-  void aJobThatThrowsDoesNotTakeTheOthersWithIt() {
-    int done = 0;
-    OrderedWork work;
-    for (int i = 0; i < 4; ++i)
-      work.add([&done, i] {
-        if (i == 1) throw std::runtime_error("first");
-        if (i == 2) throw std::runtime_error("second");
-        ++done;
-      });
-    work.wait();
-    QCOMPARE(done, 2);
-    QVERIFY(work.failed());
-    try {
-      work.throwFailure();
-      QFAIL("nothing was thrown");
-    } catch (const std::runtime_error& e) {
-      QCOMPARE(e.what(), "first");
-    }
-    QVERIFY(!work.failed());
-    work.throwFailure();  // told once
-  }
-
-  void theEndWaitsForWhatWasGiven() {
-    int done = 0;
     {
-      OrderedWork work;
-      for (int i = 0; i < 4; ++i) work.add([&done] { ++done; });
+      OrderedWork<int> work("test-work", [&](std::vector<int>& group) {
+        mostAhead = std::max(mostAhead, given.load() - group.front());
+        order.insert(order.end(), group.begin(), group.end());
+      });
+      for (int i = 0; i < items; ++i) {
+        work.add(i);
+        ++given;
+      }
     }
-    QCOMPARE(done, 4);
+    QCOMPARE(order, expected);                                         // its end waits for what was given
+    QVERIFY2(mostAhead <= 8, qPrintable(QString::number(mostAhead)));  // four wait beside four in work
+  }
+
+  void aFailureDoesNotTakeTheOthersWithIt() {
+    std::vector<int> done;
+    OrderedWork<int> work("test-work", [&](std::vector<int>& group) {
+      for (const int item : group) {
+        if (item == 1) throw std::runtime_error("first");
+        if (item == 2) throw 2;
+        done.push_back(item);
+      }
+    });
+    for (int i = 0; i < 4; ++i) {
+      work.add(i);
+      work.wait();
+    }
+    QCOMPARE(done, (std::vector{0, 3}));
+    QVERIFY(work.failed());
+    QVERIFY_THROWS_EXCEPTION(std::runtime_error, work.throwFailure());
+    QVERIFY(!work.failed());  // it is told once
   }
 };
 

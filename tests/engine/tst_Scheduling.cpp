@@ -1,7 +1,6 @@
 // Which task runs, when a run ends, and what state the tasks are in.
 
 #include <QDir>
-#include <QTest>
 #include <stdexcept>
 
 #include "engine/UploadThread.h"
@@ -15,79 +14,55 @@ using namespace Qt::Literals::StringLiterals;
 class tst_Scheduling : public QObject {
   Q_OBJECT
 
-  static void run() {
-    UploadThread::Start();
-    QTRY_VERIFY_WITH_TIMEOUT(!UploadThread::ProcessingNow(), 20'000);
+  /// A task in the list, with a folder of its own and files in it that bear its name.
+  static TaskPointer addTask(const EngineBench& bench, const QString& name, int files) {
+    const TaskPointer task = bench.makeTask(name);
+    task->inputFolderPath = bench.home.makeFolder(u"in-"_s + name);
+    for (int i = 1; i <= files; ++i) bench.drop(name + QString::number(i) + u".txt"_s, "x", u"in-"_s + name);
+    UploaderTask::addTask(task);
+    return task;
   }
 
  private slots:
-  void theEarliestNameIsFinishedFirstAndTheRunTakesAll() {
+  void theEarliestNameIsFinishedFirstAndTheSwitchEndsTheRunBehindABatch() {
     EngineBench bench;
-    for (const QString& name : {u"b"_s, u"A"_s, u"c"_s}) {
-      const TaskPointer task = bench.makeTask(name);
-      task->inputFolderPath = bench.home.makeFolder(u"in-"_s + name);
-      UploaderTask::addTask(task);
-    }
-    bench.drop(u"1b.txt"_s, "x", u"in-b"_s);
-    bench.drop(u"2a.txt"_s, "x", u"in-A"_s);
-    bench.drop(u"3a.txt"_s, "x", u"in-A"_s);
-    bench.drop(u"c.txt"_s, "x", u"in-c"_s);
-    UploaderTask::allTasks().at(2)->disabled = true;
-    UploadThread::Start();
-    QVERIFY(bench.service.waitForReceipts(3, 10'000));
-    QTRY_VERIFY(!UploadThread::ProcessingNow());
-    QCOMPARE(bench.received(), (QStringList{u"2a.txt"_s, u"3a.txt"_s, u"1b.txt"_s}));
-    QCOMPARE(UploaderTask::allTasks().at(0)->Status.load(), UploaderTask::Processing);
-    QCOMPARE(UploaderTask::allTasks().at(2)->Status.load(), UploaderTask::Ready);
-  }
-
-  void theSwitchEndsTheRunBehindTheBatch() {
-    EngineBench bench;
-    for (const QString& name : {u"a"_s, u"b"_s}) {
-      const TaskPointer task = bench.makeTask(name);
-      task->inputFolderPath = bench.home.makeFolder(u"in-"_s + name);
-      UploaderTask::addTask(task);
-      bench.drop(name + u"1.txt"_s, "x", u"in-"_s + name);
-      bench.drop(name + u"2.txt"_s, "x", u"in-"_s + name);
-    }
+    const TaskPointer b = addTask(bench, u"b"_s, 1), a = addTask(bench, u"A"_s, 2), c = addTask(bench, u"c"_s, 1);
+    c->disabled = true;
     bench.service.hold();
     UploadThread::Start();
     QVERIFY(bench.service.waitForHeld(1, 10'000));
     UploadThread::Enabled = false;
     bench.service.release();
     QTRY_VERIFY(!UploadThread::ProcessingNow());
-    QCOMPARE(bench.received(), (QStringList{u"a1.txt"_s, u"a2.txt"_s}));
-    run();
-    QCOMPARE(bench.received().size(), 2);
+    UploadThread::Start();
+    QTRY_VERIFY(!UploadThread::ProcessingNow());
+    QCOMPARE(bench.received(), (QStringList{u"A1.txt"_s, u"A2.txt"_s}));
+    UploadThread::Enabled = true;
+    UploadThread::Start();
+    QVERIFY(bench.service.waitForReceipts(3, 10'000));
+    QTRY_VERIFY(!UploadThread::ProcessingNow());
+    QCOMPARE(bench.received(), (QStringList{u"A1.txt"_s, u"A2.txt"_s, u"b1.txt"_s}));
+    QVERIFY(b->Status == UploaderTask::Processing && c->Status == UploaderTask::Ready);
   }
 
-  void status_data() {
-    QTest::addColumn<QString>("input");
-    QTest::addColumn<QString>("output");
-    QTest::addColumn<qint64>("status");
-    QTest::newRow("both folders there") << u"in"_s << u"out"_s << qint64(UploaderTask::Ready);
-    QTest::newRow("no output folder wanted") << u"in"_s << u""_s << qint64(UploaderTask::Ready);
-    QTest::newRow("no input folder") << u""_s << u"out"_s << qint64(UploaderTask::Fault);
-    QTest::newRow("input folder gone") << u"gone"_s << u"out"_s << qint64(UploaderTask::Fault);
-    QTest::newRow("output folder gone") << u"in"_s << u"gone"_s << qint64(UploaderTask::Fault);
-    QTest::newRow("a file in place of the output folder") << u"in"_s << u"file"_s << qint64(UploaderTask::Fault);
-  }
-  void status() {
-    QFETCH(QString, input);
-    QFETCH(QString, output);
+  void aMissingFolderIsAFaultThatHealsByItself() {
     EngineBench bench;
     bench.home.writeFile(u"file"_s, "x");
-    const TaskPointer task = bench.makeTask();
-    task->inputFolderPath = input.isEmpty() ? QString() : bench.home.path(input);
-    task->outputFolderPath = output.isEmpty() ? QString() : bench.home.path(output);
-    task->updateStatus();
-    QTEST(task->Status.load(), "status");
-    if (task->Status == UploaderTask::Fault && input == u"in"_s) {
-      QFile::remove(bench.home.path(u"file"_s));
-      bench.home.makeFolder(output);
+    const auto status = [&](const char* input, const char* output) {
+      const TaskPointer task = bench.makeTask();
+      const auto path = [&](const char* name) {
+        return *name ? bench.home.path(QString::fromLatin1(name)) : QString();
+      };
+      task->inputFolderPath = path(input);
+      task->outputFolderPath = path(output);
       task->updateStatus();
-      QCOMPARE(task->Status.load(), UploaderTask::Ready);  // it heals by itself
-    }
+      return task->Status.load();
+    };
+    QVERIFY(status("in", "out") == UploaderTask::Ready && status("in", "") == UploaderTask::Ready);
+    for (const auto& [input, output] : {std::pair("", "out"), {"gone", "out"}, {"in", "gone"}, {"in", "file"}})
+      QCOMPARE(status(input, output), qint64{UploaderTask::Fault});
+    bench.home.makeFolder(u"gone"_s);
+    QVERIFY(status("gone", "out") == UploaderTask::Ready && status("in", "gone") == UploaderTask::Ready);
   }
 
   void anExceptionEndsTheRunInGoodOrder() {
@@ -108,27 +83,23 @@ class tst_Scheduling : public QObject {
     VantryUtil::LogEntry::setRowObserver({});
     bench.clock.advance(100);
     bench.drop(u"b.txt"_s);
+    Problems::raise(Problem::Kind::RunFailed, {}, u"planted"_s);  // as from a look at the tasks
     UploadThread::Start();
     QTRY_COMPARE(bench.notes().last(), u"Uploaded to Print Warden - Saved"_s);
+    QTRY_VERIFY(Problems::present().isEmpty());
   }
 
   void mounting_data() {
-    QTest::addColumn<bool>("exists");
-    QTest::addColumn<bool>("wanted");
-    QTest::addColumn<QString>("url");
-    QTest::addColumn<bool>("pausing");
-    QTest::addColumn<QString>("mountPoint");
-    QTest::addColumn<QStringList>("mounted");
-    QTest::addColumn<bool>("pauseAfter");
-    const QString share = u"smb://server/a share%20x"_s;
-    const QStringList none, once{u"smb://server/a%20share%20x user secret"_s};
-    QTest::newRow("a folder that exists needs no mount") << true << true << share << false << u"/m"_s << none << false;
-    QTest::newRow("not wanted") << false << false << share << false << u"/m"_s << none << false;
-    QTest::newRow("no URL: no attempt and no pause") << false << true << u"  "_s << false << u"/m"_s << none << false;
-    QTest::newRow("in the pause") << false << true << share << true << u"/m"_s << none << true;
-    QTest::newRow("good mount") << false << true << share << false << u"/m"_s << once << false;
-    QTest::newRow("failed mount begins the pause") << false << true << share << false << u" "_s << once << true;
-    QTest::newRow("a mount that throws begins the pause") << false << true << share << false << u"throw"_s << once << true;
+    addColumns<bool, bool, QString, bool, QString, int, bool>("exists", "wanted", "url", "pausing", "mountPoint",
+                                                              "times", "pauseAfter");
+    const QString share = u"smb://server/a share%20x"_s, m = u"/m"_s;
+    QTest::newRow("a folder that exists needs no mount") << true << true << share << false << m << 0 << false;
+    QTest::newRow("not wanted") << false << false << share << false << m << 0 << false;
+    QTest::newRow("no URL: no attempt and no pause") << false << true << u"  "_s << false << m << 0 << false;
+    QTest::newRow("in the pause") << false << true << share << true << m << 0 << true;
+    QTest::newRow("good mount") << false << true << share << false << m << 1 << false;
+    QTest::newRow("failed mount begins the pause") << false << true << share << false << u" "_s << 1 << true;
+    QTest::newRow("so does one that throws") << false << true << share << false << u"throw"_s << 1 << true;
   }
   void mounting() {
     QFETCH(bool, exists);
@@ -136,6 +107,7 @@ class tst_Scheduling : public QObject {
     QFETCH(QString, url);
     QFETCH(bool, pausing);
     QFETCH(QString, mountPoint);
+    QFETCH(int, times);
     EngineBench bench;
     QStringList mounted;
     UploaderTask::setMountOperation([&](const MountRequest& request, int& error) -> QString {
@@ -144,7 +116,6 @@ class tst_Scheduling : public QObject {
       if (mountPoint == u"throw"_s) throw std::runtime_error("mount");
       return mountPoint;
     });
-    UploaderTask::setTriedAutoMount(pausing);
     for (const bool input : {true, false}) {
       mounted.clear();
       UploaderTask::setTriedAutoMount(pausing);
@@ -155,8 +126,14 @@ class tst_Scheduling : public QObject {
       (input ? task->InputLogin : task->outputLogin) = u"user"_s;
       (input ? task->inputPassword : task->outputPassword) = u"secret"_s;
       task->TryAutoMount(input);
-      QTEST(mounted, "mounted");
+      QCOMPARE(mounted, QStringList(times, u"smb://server/a%20share%20x user secret"_s));
       QTEST(UploaderTask::triedAutoMount(), "pauseAfter");
+      QStringList told;
+      for (const Problem& problem : Problems::present()) told << problem.subject + u": "_s + problem.detail;
+      const bool failed = UploaderTask::triedAutoMount() && !pausing;
+      const QStringList expected{url + u": the server has no such share or folder"_s};
+      QCOMPARE(told, failed ? expected : QStringList());
+      Problems::clearKind(Problem::Kind::ShareNotMounted);
       QVERIFY(input ? task->inputFolder.has_value() : task->outputFolder.has_value());
     }
   }

@@ -1,7 +1,7 @@
 // How the program comes up: in order, without a network, and by itself once the network is there.
 
-#include <QTest>
 #include <QUrl>
+#include <thread>
 
 #include "engine/StartUp.h"
 #include "engine/UploadThread.h"
@@ -9,6 +9,7 @@
 #include "service/VTInstrumentTrack.h"
 #include "service/VTTrack.h"
 #include "service/VantryUtil.h"
+#include "storage/Preferences.h"
 #include "support/EngineBench.h"
 #include "support/TestRunner.h"
 
@@ -24,7 +25,11 @@ class tst_StartUp : public QObject {
   Q_OBJECT
 
   /// The service where this build looks for it.
-  static quint16 defaultPort() { return static_cast<quint16>(QUrl(VantryUtil::DefaultAPIEndpoint()).port(443)); }
+  static void startAtDefault(PracticeService& service) {
+    const int port = QUrl(VantryUtil::DefaultAPIEndpoint()).port(443);
+    QVERIFY2(service.start(static_cast<quint16>(port)), qPrintable(service.errorString()));
+    VantryUtil::setExtraCaFile(service.caFile());
+  }
 
  private slots:
   void cleanup() {
@@ -38,9 +43,8 @@ class tst_StartUp : public QObject {
     UploadThread::Enabled = false;
     QVERIFY(bench.makeTask()->save(UploaderTask::TaskDirectory().Child(u"a.vnt"_s)));
     PracticeService late;
-    QVERIFY2(late.start(defaultPort()), qPrintable(late.errorString()));
+    startAtDefault(late);
     late.stop();
-    VantryUtil::setExtraCaFile(late.caFile());
 
     std::atomic<int> loaded{0};
     StartUp::begin({.tasksLoaded = [&] { ++loaded; }, .failed = {}});
@@ -50,7 +54,7 @@ class tst_StartUp : public QObject {
     QVERIFY(unreachable());
     QVERIFY(VantryUtil::AccountURL().isEmpty());
 
-    QVERIFY2(late.start(defaultPort()), qPrintable(late.errorString()));
+    startAtDefault(late);
     QTRY_VERIFY_WITH_TIMEOUT(VTInstrumentTrack::everFetched() && VTTrack::everFetched(), 30'000);
     QCOMPARE(VantryUtil::AccountURL(), late.url());
     QVERIFY(!VTTrack::ListDevices().isEmpty());
@@ -63,11 +67,11 @@ class tst_StartUp : public QObject {
     VantryUtil::setAccountURL({});
     UploadThread::Enabled = false;
     PracticeService service;
-    QVERIFY2(service.start(defaultPort()), qPrintable(service.errorString()));
-    VantryUtil::setExtraCaFile(service.caFile());
+    startAtDefault(service);
     service.misbehave({.kind = Misbehaviour::Kind::ErrorCode, .text = "E003", .method = "TrackList"});
     std::atomic<int> requestsAtLoad{-1};
-    StartUp::begin({.tasksLoaded = [&] { requestsAtLoad = static_cast<int>(service.requests().size()); }, .failed = {}});
+    StartUp::begin(
+        {.tasksLoaded = [&] { requestsAtLoad = static_cast<int>(service.requests().size()); }, .failed = {}});
     QTRY_COMPARE_WITH_TIMEOUT(requestsAtLoad.load(), 3, 10'000);
     QByteArrayList methods;
     for (const PracticeRequest& request : service.requests()) methods << request.method;
@@ -75,15 +79,57 @@ class tst_StartUp : public QObject {
     QVERIFY(UploadThread::Enabled);
   }
 
+  void anotherLoginBringsItsEndpointAndCatalogues() {
+    EngineBench bench;
+    PracticeService service;
+    startAtDefault(service);
+    StartUp::begin({});
+    QTRY_VERIFY_WITH_TIMEOUT(VTInstrumentTrack::everFetched(), 10'000);
+    VTTrack old;
+    old.Device = u"old"_s;
+    VTTrack::setTracks({old});
+    StartUp::refresh(false);
+    QTRY_VERIFY(UploadThread::Enabled);
+    QCOMPARE(VTTrack::ListDevices(), QStringList{u"old"_s});  // the account is the same
+
+    service.forgetReceived();
+    service.misbehave({.kind = Misbehaviour::Kind::NoReply});
+    StartUp::refresh(true);
+    QVERIFY(VTTrack::ListDevices().isEmpty() && VantryUtil::AccountURL().isEmpty());
+    QVERIFY(service.waitForRequests(1, 10'000));
+    QVERIFY2(!UploadThread::Enabled, "no file goes out before the endpoint has been asked for");
+    UploadThread::enable();
+    QVERIFY(!UploadThread::Enabled);
+    StartUp::stop(5000);
+    QVERIFY(UploadThread::Enabled);
+
+    VantryUtil::allowServiceCalls();
+    StartUp::begin({});
+    QTRY_VERIFY_WITH_TIMEOUT(VTInstrumentTrack::everFetched(), 10'000);
+    StartUp::refresh(true);
+    QTRY_VERIFY_WITH_TIMEOUT(VTInstrumentTrack::everFetched(), 10'000);
+    QVERIFY(UploadThread::Enabled && !VTTrack::ListDevices().isEmpty());
+    QCOMPARE(VantryUtil::AccountURL(), service.url());
+  }
+
+  void anAnswerToTheLoginBeforeIsDropped() {
+    EngineBench bench;
+    bench.service.misbehave({.kind = Misbehaviour::Kind::TrickleReply, .bytes = 100, .everyMs = 20});
+    VTTrack::forget();
+    std::thread slow([] { (void)VantryUtil::TrackList(); });
+    const bool asked = bench.service.waitForRequests(1, 10'000);
+    VantryUtil::prefs->setStringValue(u"SoapLogin"_s, u"another"_s);
+    slow.join();
+    QVERIFY(asked);
+    QVERIFY(VTTrack::ListDevices().isEmpty() && !VTTrack::everFetched());
+  }
+
   void anExceptionIsHandedOut() {
     EngineBench bench;
     QString reason;
     std::atomic<bool> failed{false};
     StartUp::begin({.tasksLoaded = [] { throw std::runtime_error("planted"); },
-                    .failed = [&](const QString& why) {
-                      reason = why;
-                      failed = true;
-                    }});
+                    .failed = [&](const QString& why) { reason = why, failed = true; }});
     QTRY_VERIFY_WITH_TIMEOUT(failed, 70'000);
     QCOMPARE(reason, u"planted"_s);
   }
@@ -91,8 +137,7 @@ class tst_StartUp : public QObject {
   void aCallThatIsNeverAnsweredDoesNotHoldTheEndUp() {
     EngineBench bench;
     PracticeService service;
-    QVERIFY2(service.start(defaultPort()), qPrintable(service.errorString()));
-    VantryUtil::setExtraCaFile(service.caFile());
+    startAtDefault(service);
     service.misbehave({.kind = Misbehaviour::Kind::NoReply});
     StartUp::begin({});
     QVERIFY(service.waitForRequests(1, 10'000));

@@ -1,11 +1,10 @@
 // Task files on the disk and the shared list.
 
 #include <QDir>
-#include <QTest>
 
 #include "engine/UploaderTask.h"
 #include "platform/Problems.h"
-#include "platform/SpecialFolder.h"
+#include "platform/Unprivileged.h"
 #include "storage/DictionaryFile.h"
 #include "support/TemporaryHome.h"
 #include "support/TestRunner.h"
@@ -14,10 +13,14 @@ using namespace Qt::Literals::StringLiterals;
 
 class tst_TaskFiles : public QObject {
   Q_OBJECT
+  std::optional<TemporaryHome> m_home;
 
-  static TaskPointer stored(const QString& name, const QString& fileName) {
+  static QString taskFile(const QString& name) { return UploaderTask::TaskDirectory().Child(name).NativePath(); }
+  static TaskPointer stored(const QString& name, const QString& fileName, const QString& share = {}) {
     auto task = std::make_shared<UploaderTask>();
     task->Name = name;
+    task->AutoMountInputFolder = !share.isEmpty();
+    task->inputfolderURL = share;
     if (!task->save(UploaderTask::TaskDirectory().Child(fileName))) qFatal("cannot store a task");
     return task;
   }
@@ -33,71 +36,83 @@ class tst_TaskFiles : public QObject {
     QStringList list;
     for (const Problem& problem : Problems::present())
       if (problem.kind == Problem::Kind::TaskFileSkipped) list << problem.subject;
-    list.sort();
     return list;
   }
 
  private slots:
-  void init() { DictionaryFile::setSolutionKey(u"KestrelMoonOVJT"_s); }
+  void init() {
+    m_home.emplace();
+    DictionaryFile::setSolutionKey(u"KestrelMoonOVJT"_s);
+  }
   void cleanup() {
     UploaderTask::unload();
+    Problems::clearKind(Problem::Kind::TaskFolderUnreadable);
     DictionaryFile::setSolutionKey({});
   }
 
   void aTaskComesBackAsItWasSaved() {
-    const TemporaryHome home;
-    UploaderTask task;
-    task.Name = u"Press \"3\" \u00fc"_s;
-    task.Description = u"line\nbreak"_s;
-    task.Warden = u"Print"_s;
-    task.Track = u"TW-1"_s;
-    task.FileName = u"a*b"_s;
-    task.Extension = u".txt"_s;
+    UploaderTask task, read;
+    QString UploaderTask::*const texts[] = {
+        &UploaderTask::Name,     &UploaderTask::Description, &UploaderTask::Warden, &UploaderTask::Track,
+        &UploaderTask::FileName, &UploaderTask::Extension,   &UploaderTask::Prefix, &UploaderTask::outputFolderPath};
+    int number = 0;
+    for (const auto text : texts) task.*text = u"/\"%1\" \u00fc\n"_s.arg(++number);
+    task.inputFolderPath = m_home->path(u"in/with blank"_s);
     task.setExclusionPattern(u"  draft "_s);
-    task.Prefix = u"P"_s;
-    task.inputFolderPath = home.path(u"in/with blank"_s);
-    task.outputFolderPath = home.path(u"out"_s);
     task.ReplaceName = task.DeleteAfterSave = true;
     const FolderItem file = UploaderTask::TaskDirectory().Child(u"x.vnt"_s);
-    QVERIFY(task.save(file));
-
     DictionaryFile raw;
-    QVERIFY(raw.open(file).ok());
+    QVERIFY(task.save(file) && raw.open(file).ok() && read.open(file).ok());
     QStringList keys = raw.Keys();
     keys.sort();
-    QCOMPARE(keys.join(u' '), u"adddatetofilename autorecognition deleteaftersave description exclusion extension "
-                              "filename inputfolder name outputfolder prefix replacename track warden"_s);
-
-    UploaderTask read;
-    QVERIFY(read.open(file).ok());
-    QCOMPARE(read.Name, task.Name);
-    QCOMPARE(read.Description, task.Description);
-    QCOMPARE(read.Track, task.Track);
-    QCOMPARE(read.ExclusionPattern(), u"  draft "_s);
-    QVERIFY(read.matchesExclusion(u"a draft"_s));
+    QCOMPARE(keys.join(u' '),
+             u"adddatetofilename autorecognition deleteaftersave description exclusion extension "
+             "filename inputfolder name outputfolder prefix replacename track warden"_s);
+    for (const auto text : texts) QCOMPARE(read.*text, task.*text);
+    QVERIFY(read.ExclusionPattern() == u"  draft "_s && read.matchesExclusion(u"a draft"_s));
     QCOMPARE(read.inputFolder->NativePath(), task.inputFolderPath);
-    QCOMPARE(read.outputFolderPath, task.outputFolderPath);
     QVERIFY(read.ReplaceName && read.DeleteAfterSave && !read.AddDateToFilename && !read.AutoRecognition);
+    QVERIFY(!read.AutoMountInputFolder && !read.autoMountOutputFolder);
+  }
+
+  void onlyASideThatMountsHasMoreMembers() {
+    for (const bool input : {true, false}) {
+      const auto task = std::make_shared<UploaderTask>();
+      task->AutoMountInputFolder = input;
+      task->autoMountOutputFolder = !input;
+      task->inputfolderURL = u"smb://in/a b"_s, task->outputFolderUrl = u"smb://out"_s;
+      task->InputLogin = u"SHOP\\in"_s, task->outputLogin = u"out@shop"_s;
+      task->inputPassword = u"ink"_s, task->outputPassword = u"paper"_s;
+      QVERIFY(task->save(UploaderTask::TaskDirectory().Child(u"x.vnt"_s)));
+      QVERIFY(!TemporaryHome::readFile(task->file->NativePath()).contains("ink"));
+      QVERIFY(UploaderTask::duplicateTask(task));
+      const TaskPointer copy = UploaderTask::allTasks().last();
+      DictionaryFile raw;
+      QVERIFY(raw.open(*copy->file).ok());
+      QCOMPARE(raw.Keys().size(), 18);
+      UploaderTask read;
+      QVERIFY(read.open(*copy->file).ok());
+      const QStringList in{read.inputfolderURL, read.InputLogin, read.inputPassword};
+      const QStringList out{read.outputFolderUrl, read.outputLogin, read.outputPassword};
+      QCOMPARE(read.AutoMountInputFolder, input);
+      QCOMPARE(read.autoMountOutputFolder, !input);
+      QCOMPARE(in.join(u' '), input ? u"smb://in/a b SHOP\\in ink"_s : u"  "_s);
+      QCOMPARE(out.join(u' '), input ? u"  "_s : u"smb://out out@shop paper"_s);
+    }
   }
 
   void loadingSkipsWhatItCannotReadAndKeepsTheRest() {
-    const TemporaryHome home;
     stored(u"beta"_s, u"1.vnt"_s);
     stored(u"Alpha"_s, u"2.VNT"_s);
     stored(u"alpha"_s, u"3.vnt"_s);
     stored(u"removed"_s, u"4.del"_s);
     stored(u"other"_s, u"5.txt"_s);
-    const QString folder = UploaderTask::TaskDirectory().NativePath() + u'/';
-    QDir().mkpath(folder + u"folder.vnt"_s);
-    const QByteArray good = TemporaryHome::readFile(folder + u"1.vnt"_s);
-    const auto write = [&](const QString& name, const QByteArray& content) {
-      QFile file(folder + name);
-      QVERIFY(file.open(QIODevice::WriteOnly));
-      file.write(content);
-    };
-    write(u"cut.vnt"_s, good.left(good.size() / 2));
-    write(u"empty.vnt"_s, {});
-    write(u"plain.vnt"_s, R"({"name":"plain"})");
+    m_home->makeFolder(u"data/vantry-uploader/Uploader Tasks/folder.vnt"_s);
+    const QByteArray good = TemporaryHome::readFile(taskFile(u"1.vnt"_s));
+    const QString inHome = u"data/vantry-uploader/Uploader Tasks/"_s;
+    m_home->writeFile(inHome + u"cut.vnt"_s, good.left(good.size() / 2));
+    m_home->writeFile(inHome + u"empty.vnt"_s, {});
+    m_home->writeFile(inHome + u"plain.vnt"_s, R"({"name":"plain"})");
     DictionaryFile::setSolutionKey(u"another"_s);
     stored(u"foreign"_s, u"foreign.vnt"_s);
     DictionaryFile::setSolutionKey(u"KestrelMoonOVJT"_s);
@@ -111,18 +126,38 @@ class tst_TaskFiles : public QObject {
   }
 
   void aTaskFolderThatIsAFileIsSaid() {
-    const TemporaryHome home;
-    home.writeFile(u"data/vantry-uploader/Uploader Tasks"_s, "not a folder");
+    m_home->writeFile(u"data/vantry-uploader/Uploader Tasks"_s, "not a folder");
     UploaderTask::Load();
     QVERIFY(names().isEmpty());
-    bool said = false;
-    for (const Problem& problem : Problems::present()) said |= problem.kind == Problem::Kind::TaskFolderUnreadable;
-    QVERIFY(said);
-    Problems::clearKind(Problem::Kind::TaskFolderUnreadable);
+    QCOMPARE(Problems::present().value(0).kind, Problem::Kind::TaskFolderUnreadable);
+  }
+
+  void aTaskFolderThatIsReadOnlyOrGoneSaysSoAndLosesNothing() {
+    ::chmod(QFile::encodeName(m_home->makeFolder(u"data"_s)).constData(), 0777);
+    const Unprivileged user(m_home->path());
+    stored(u"Press"_s, u"p.vnt"_s);
+    const QByteArray folder = UploaderTask::TaskDirectory().bytes(),
+                     before = TemporaryHome::readFile(taskFile(u"p.vnt"_s));
+    QCOMPARE(::chmod(folder, 0500), 0);
+    UploaderTask::Load();
+    const TaskPointer task = UploaderTask::allTasks().value(0);
+    UploaderTask edited;
+    IoResult saving, copying;
+    QVERIFY(task && !edited.save(*task->file, &saving) && !UploaderTask::duplicateTask(task, &copying));
+    for (const IoResult& failure : {saving, copying, UploaderTask::RemoveTask(task)})
+      QVERIFY2(failure.error == EACCES && failure.message().contains(u"Permission denied"_s) &&
+                   failure.message().contains(u".vnt"_s, Qt::CaseInsensitive),
+               qPrintable(failure.message()));
+    QCOMPARE(files(), QStringList{u"p.vnt"_s});
+    QCOMPARE(TemporaryHome::readFile(taskFile(u"p.vnt"_s)), before);
+    UploaderTask::Load();
+    QCOMPARE(names(), QStringList{u"Press"_s});
+    QVERIFY(::chmod(folder, 0700) == 0 && QDir(QFile::decodeName(folder)).removeRecursively());
+    QVERIFY(!UploaderTask::duplicateTask(task, &copying) && !copying.ok());
+    QCOMPARE(names(), QStringList{u"Press"_s});
   }
 
   void aCopyIsDisabledNamedAndStored() {
-    const TemporaryHome home;
     stored(u"Press/1"_s, u"p.vnt"_s);
     UploaderTask::Load();
     QVERIFY(UploaderTask::duplicateTask(UploaderTask::allTasks().first()));
@@ -130,49 +165,53 @@ class tst_TaskFiles : public QObject {
     QCOMPARE(names(), (QStringList{u"Press/1"_s, u"Press/1 Copy"_s, u"Press/1 Copy Copy"_s}));
     QVERIFY(UploaderTask::allTasks().at(1)->disabled);
     UploaderTask::Load();
-    QCOMPARE(names().size(), 3);
-    QVERIFY(!UploaderTask::allTasks().at(1)->disabled);
-  }
-
-  void aCopyThatCannotBeWrittenSaysWhy() {
-    const TemporaryHome home;
-    auto task = stored(u"gone"_s, u"gone.vnt"_s);
-    QVERIFY(task->file->Delete().ok());
-    UploaderTask::addTask(task);
-    QVERIFY(QDir(UploaderTask::TaskDirectory().NativePath()).removeRecursively());
-    IoResult failure;
-    QVERIFY(!UploaderTask::duplicateTask(task, &failure));
-    QVERIFY(!failure.ok());
-    QCOMPARE(names().size(), 1);
+    QVERIFY(names().size() == 3 && !UploaderTask::allTasks().at(1)->disabled);
   }
 
   void removingTakesTwoSteps() {
-    const TemporaryHome home;
     stored(u"a"_s, u"a.vnt"_s);
     stored(u"b"_s, u"b.VNT"_s);
-    stored(u"old"_s, u"a.del"_s);
+    for (const QString& taken : {u"a.del"_s, u"1 a.del"_s}) stored(u"old"_s, taken);
     UploaderTask::Load();
     const TaskPointer a = UploaderTask::allTasks().first();
+    UploaderTask::Load();  // as a start-up that took long would, over a window that still holds the old one
     QVERIFY(UploaderTask::RemoveTask(a).ok());
     QVERIFY(UploaderTask::RemoveTask(a).ok());
     QCOMPARE(names(), QStringList{u"b"_s});
-    QCOMPARE(files(), (QStringList{u"1 a.del"_s, u"a.del"_s, u"b.VNT"_s}));
+    QCOMPARE(files(), (QStringList{u"1 a.del"_s, u"2 a.del"_s, u"a.del"_s, u"b.VNT"_s}));
     UploaderTask::cleanUpDeletedTasks();
     QCOMPARE(files(), QStringList{u"b.VNT"_s});
   }
 
-  void distinctNamesCountFromTheFirstName() {
-    const TemporaryHome home;
-    const auto distinct = [&](const QString& name) {
-      FolderItem item = home.item(u"x/"_s + name);
-      UploaderTask::DistinctName(item);
-      return item.Name();
+  void aProblemGoesWithTheLastTaskThatItConcerns() {
+    const QString share = u"smb://server/share"_s;
+    stored(u"a"_s, u"a.vnt"_s, share);
+    stored(u"b"_s, u"b.vnt"_s, share);
+    stored(u"c"_s, u"c.vnt"_s);
+    UploaderTask::Load();
+    Problems::raise(Problem::Kind::ShareNotMounted, share, {});
+    for (const QString& name : {u"a"_s, u"b"_s, u"c"_s}) Problems::raise(Problem::Kind::UploadFailed, name, {});
+    const auto subjects = [] {
+      QStringList list;
+      for (const Problem& problem : Problems::present()) list << problem.subject;
+      return list;
     };
-    QCOMPARE(distinct(u"report.txt"_s), u"report.txt"_s);
-    home.writeFile(u"x/report.txt"_s, "1");
-    QCOMPARE(distinct(u"report.txt"_s), u"1 report.txt"_s);
-    home.writeFile(u"x/1 report.txt"_s, "2");
-    QCOMPARE(distinct(u"report.txt"_s), u"2 report.txt"_s);
+    QVERIFY(UploaderTask::RemoveTask(UploaderTask::getTaskWIthName(u"a"_s)).ok());
+    QCOMPARE(subjects(), (QStringList{share, u"b"_s, u"c"_s}));
+    QVERIFY(QFile::remove(taskFile(u"b.vnt"_s)));
+    UploaderTask::Load();
+    QCOMPARE(subjects(), QStringList{u"c"_s});
+    Problems::clear(Problem::Kind::UploadFailed, u"c"_s);
+  }
+
+  void anEditTakesThePlaceOfATaskThatWasLoadedAnew() {
+    stored(u"a"_s, u"a.vnt"_s);
+    UploaderTask::Load();
+    const TaskPointer old = UploaderTask::allTasks().first();
+    UploaderTask::Load();
+    QVERIFY(UploaderTask::replaceTask(old, stored(u"edited"_s, u"e.vnt"_s)).ok());
+    QCOMPARE(names(), QStringList{u"edited"_s});
+    QCOMPARE(files(), (QStringList{u"a.del"_s, u"e.vnt"_s}));
   }
 };
 

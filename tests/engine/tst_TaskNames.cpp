@@ -1,7 +1,5 @@
 // Which names a task takes, and the names under which files go out.
 
-#include <QTest>
-
 #include "engine/UploadThread.h"
 #include "engine/UploaderTask.h"
 #include "platform/Problems.h"
@@ -16,60 +14,55 @@ class tst_TaskNames : public QObject {
  private slots:
   void init() { UploadThread::allowAgain(); }  // or an earlier stop would end the look at the folder
 
-  void matching_data() {
-    QTest::addColumn<QString>("extension");
-    QTest::addColumn<QString>("pattern");
-    QTest::addColumn<QString>("exclusion");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("matches");
-    const auto row = [](const char* label, const char* ext, const char* pattern, const char* exclusion,
-                        const char* name, bool matches) {
-      QTest::newRow(label) << QString::fromUtf8(ext) << QString::fromUtf8(pattern) << QString::fromUtf8(exclusion)
-                           << QString::fromUtf8(name) << matches;
-    };
-    row("no pattern: the whole ending must be the extension", ".txt", "", "", "scan.TXT", true);
-    row("no pattern and an extension without its dot selects nothing", "txt", "", "", "scan.txt", false);
-    row("no pattern, longer ending", ".gz", "", "", "scan.tar.gz", true);
-    row("no pattern, no extension, no dot in the name", "", "", "", "scan", false);
-    row("no pattern and an extension of two parts selects nothing", ".tar.gz", "", "", "scan.tar.gz", false);
-    row("no pattern and an ending of blanks", ". ", "", "", "scan. ", false);
-    row("no pattern and an extension beyond ASCII", ".\xC3\xA4", "", "", "scan.\xC3\x84", true);
-    row("a pattern of blanks is no pattern", ".txt", "  ", "", "scan.txt", true);
-    row("without a star the pattern may stand anywhere", ".txt", "foo", "", "xFOOx.txt", true);
-    row("the pattern's blanks count", ".txt", " foo", "", "foo.txt", false);
-    row("the pattern doesn't reach into the ending", ".txt", "txt", "", "scan.txt", false);
-    row("a star is not anchored", ".txt", "a*", "", "bab.txt", true);
-    row("pieces come in order", ".txt", "a*b", "", "xaxbx.txt", true);
-    row("pieces out of order", ".txt", "b*a", "", "xaxbx.txt", false);
-    row("pieces may not overlap", ".txt", "ab*ba", "", "aba.txt", false);
-    row("a star alone takes every name", ".txt", "*", "", "anything.txt", true);
-    row("blank pieces don't count", ".txt", "* *a", "", "a.txt", true);
-    row("a name without a dot has no base", "", "a", "", "aaa", false);
-    row("no other character is special", ".txt", "a?c", "", "abc.txt", false);
-    row("umlauts fold", ".txt", "\xC3\xBC", "", "\xC3\x9C" "ber.txt", true);
-    row("an exclusion keeps back", ".txt", "", "draft", "my DRAFT.txt", false);
-    row("an exclusion sees the ending", ".txt", "", "\\.txt$", "scan.txt", false);
-    row("an exclusion of blanks is none", ".txt", "", "   ", "scan.txt", true);
-    row("an exclusion that matches nothing at all keeps nothing back", ".txt", "", "x*", "scan.txt", true);
-    row("an invalid exclusion is none", ".txt", "", "(", "scan.txt", true);
-  }
-  void matching() {
-    QFETCH(QString, extension);
-    QFETCH(QString, pattern);
-    QFETCH(QString, exclusion);
-    QFETCH(QString, name);
-    UploaderTask task;
-    task.Extension = extension;
-    task.FileName = pattern;
-    task.setExclusionPattern(exclusion);
-    QTEST(task.FileNameMatch(name), "matches");
-
-    // A look at a folder judges most names without this function, and must come to the same.
+  void whichNamesATaskTakes() {
     const TemporaryHome home;
-    home.writeFile(u"in/"_s + name, "patch data");
-    task.inputFolder = home.item(u"in"_s);
-    const bool taken = task.FileNameMatch(name) && name.endsWith(extension, Qt::CaseInsensitive);
-    QCOMPARE(task.EvaluateInputFolder().size(), taken ? 1 : 0);
+    const std::tuple<const char*, const char*, const char*, const char*, bool> rows[] = {
+        // Extension, pattern, exclusion, name. Without a pattern the whole ending must be the extension.
+        {".txt", "", "", "scan.TXT", true},
+        {"txt", "", "", "scan.txt", false},
+        {".gz", "", "", "scan.tar.gz", true},
+        {"", "", "", "scan", false},
+        {".tar.gz", "", "", "scan.tar.gz", false},
+        {". ", "", "", "scan. ", false},
+        {".\xC3\xA4", "", "", "scan.\xC3\x84", true},
+        {".txt", "  ", "", "scan.txt", true},
+        // A pattern may stand anywhere in the name before the ending, blanks included.
+        {".txt", "foo", "", "xFOOx.txt", true},
+        {".txt", " foo", "", "foo.txt", false},
+        {".txt", "txt", "", "scan.txt", false},
+        {"", "a", "", "aaa", false},
+        {".txt", "a?c", "", "abc.txt", false},
+        {".txt", "\xC3\xBC", "",
+         "\xC3\x9C"
+         "ber.txt",
+         true},
+        // Pieces between stars come in order and do not overlap; blank ones don't count.
+        {".txt", "a*", "", "bab.txt", true},
+        {".txt", "a*b", "", "xaxbx.txt", true},
+        {".txt", "b*a", "", "xaxbx.txt", false},
+        {".txt", "ab*ba", "", "aba.txt", false},
+        {".txt", "*", "", "anything.txt", true},
+        {".txt", "* *a", "", "a.txt", true},
+        // An exclusion sees the whole name; a blank, an empty match and an invalid one keep nothing back.
+        {".txt", "", "draft", "my DRAFT.txt", false},
+        {".txt", "", "\\.txt$", "scan.txt", false},
+        {".txt", "", "   ", "scan.txt", true},
+        {".txt", "", "x*", "scan.txt", true},
+        {".txt", "", "(", "scan.txt", true}};
+    int number = 0;
+    for (const auto& [extension, pattern, exclusion, bytes, matches] : rows) {
+      const QString name = QString::fromUtf8(bytes), folder = u"in %1"_s.arg(++number);
+      UploaderTask task;
+      task.Extension = QString::fromUtf8(extension);
+      task.FileName = QString::fromUtf8(pattern);
+      task.setExclusionPattern(QString::fromUtf8(exclusion));
+      QVERIFY2(task.FileNameMatch(name) == matches, bytes);
+      // A look at a folder judges most names without this function, and must come to the same.
+      home.writeFile(folder + u'/' + name, "patch data");
+      task.inputFolder = home.item(folder);
+      const bool taken = matches && name.endsWith(task.Extension, Qt::CaseInsensitive);
+      QVERIFY2(task.EvaluateInputFolder().size() == (taken ? 1 : 0), bytes);
+    }
   }
 
   void anExplodingExclusionKeepsTheFileBackAndIsNamed() {
@@ -79,46 +72,33 @@ class tst_TaskNames : public QObject {
     task.setExclusionPattern(u"(a+)+$"_s);
     const QString name = QString(200, u'a') + u"!.txt"_s;
     QVERIFY(!task.FileNameMatch(name));
-    bool named = false;
-    for (const Problem& problem : Problems::present())
-      named |= problem.kind == Problem::Kind::ExclusionTooCostly && problem.subject == task.Name && problem.detail == name;
-    QVERIFY(named);
+    const Problem problem = Problems::present().value(0);
+    QVERIFY(problem.kind == Problem::Kind::ExclusionTooCostly && problem.subject == task.Name &&
+            problem.detail == name);
     Problems::clear(Problem::Kind::ExclusionTooCostly, task.Name);
   }
 
-  void renaming_data() {
-    QTest::addColumn<QString>("prefix");
-    QTest::addColumn<bool>("replace");
-    QTest::addColumn<bool>("date");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("result");
-    const auto row = [](const char* label, const char* prefix, bool replace, bool date, const char* name,
-                        const char* result) {
-      QTest::newRow(label) << QString::fromUtf8(prefix) << replace << date << QString::fromUtf8(name)
-                           << QString::fromUtf8(result);
-    };
-    row("prefix and stamp in place of the name", "P", true, true, "scan.txt", "P_2024-03_09h5m7s_.txt");
-    row("prefix, name and stamp", "P", false, true, "scan.txt", "P_scan_2024-03_09h5m7s_.txt");
-    row("prefix alone", "P", true, false, "scan.txt", "P_scan.txt");
-    row("neither box: the name goes out unchanged", "", false, false, "scan.txt", "scan.txt");
-    row("neither box, with a prefix", "P", false, false, "scan.txt", "P_scan.txt");
-    row("replace without stamp leaves the name", "", true, false, "scan.txt", "scan.txt");
-    row("stamp without prefix", "", true, true, "scan.txt", "2024-03_09h5m7s_.txt");
-    row("a prefix that is there already, in another case", "scan", false, false, "Scan7.txt", "Scan7.txt");
-    row("only the last ending counts", "", false, true, "a.b.c", "a.b_2024-03_09h5m7s_.c");
-    row("no ending", "", true, true, "scan", "2024-03_09h5m7s_.scan");
-  }
-  void renaming() {
-    QFETCH(QString, prefix);
-    QFETCH(bool, replace);
-    QFETCH(bool, date);
-    QFETCH(QString, name);
-    UploaderTask task;
-    task.Prefix = prefix;
-    task.ReplaceName = replace;
-    task.AddDateToFilename = date;
+  void underWhichNameAFileGoesOut() {
     const QDateTime moment(QDate(2024, 3, 11), QTime(9, 5, 7));
-    QTEST(task.Rename(name, Date::fromNanoseconds(moment.toMSecsSinceEpoch() * 1'000'000)), "result");
+    const std::tuple<QString, bool, bool, QString, QString> rows[] = {
+        // Prefix, replace the name, add the date, the name and what it becomes.
+        {u"P"_s, true, true, u"scan.txt"_s, u"P_2024-03_09h5m7s_.txt"_s},
+        {u"P"_s, false, true, u"scan.txt"_s, u"P_scan_2024-03_09h5m7s_.txt"_s},
+        {u"P"_s, true, false, u"scan.txt"_s, u"P_scan.txt"_s},
+        {u""_s, false, false, u"scan.txt"_s, u"scan.txt"_s},
+        {u"P"_s, false, false, u"scan.txt"_s, u"P_scan.txt"_s},
+        {u""_s, true, false, u"scan.txt"_s, u"scan.txt"_s},
+        {u""_s, true, true, u"scan.txt"_s, u"2024-03_09h5m7s_.txt"_s},
+        {u"scan"_s, false, false, u"Scan7.txt"_s, u"Scan7.txt"_s},
+        {u""_s, false, true, u"a.b.c"_s, u"a.b_2024-03_09h5m7s_.c"_s},
+        {u""_s, true, true, u"scan"_s, u"2024-03_09h5m7s_.scan"_s}};
+    for (const auto& [prefix, replace, date, name, result] : rows) {
+      UploaderTask task;
+      task.Prefix = prefix;
+      task.ReplaceName = replace;
+      task.AddDateToFilename = date;
+      QCOMPARE(task.Rename(name, Date::fromNanoseconds(moment.toMSecsSinceEpoch() * 1'000'000)), result);
+    }
   }
 };
 

@@ -1,19 +1,12 @@
 // The main window's opening, its ticks, and its closing.
 
-#include <QDir>
 #include <QSignalSpy>
 #include <thread>
 
 #include "WindowFixture.h"
-#include "support/TestRunner.h"
 #include "text/VTULocalization.h"
 
 using namespace Qt::Literals::StringLiterals;
-
-static void fromAnotherThread(const std::function<void()>& call) {
-  std::thread thread(call);
-  thread.join();
-}
 
 class tst_MainWindowLife : public QObject {
   Q_OBJECT
@@ -23,105 +16,111 @@ class tst_MainWindowLife : public QObject {
     fixture.window().show();
     QVERIFY(!fixture.startUp);
     QTRY_VERIFY(fixture.startUp);
+    QTRY_COMPARE(fixture.strip(), VTULocalization::klStripNoLogin());
     fixture.startUp.reset();
     fixture.window().hide();
     fixture.window().show();
     QCoreApplication::processEvents();
     QVERIFY(!fixture.startUp);
+
+    WindowFixture ending;  // a session that ends over the first admin window
+    bool shown = false;
+    ending.commands.showAdminWindow = [&] {
+      ending.window().quitWithoutAsking();
+      return shown = true, AdminOutcome{};
+    };
+    ending.window().show();
+    QTRY_VERIFY(shown);
+    QVERIFY(!ending.startUp);
   }
 
-  void withoutALoginTheStripSaysSo() {
-    WindowFixture fixture;
-    fixture.window().show();
-    QTRY_COMPARE(fixture.strip(), VTULocalization::klStripNoLogin());
-  }
-
-  void theTasksAppearWhenTheyAreLoaded() {
+  void theTasksAppearWhenTheyAreLoadedAndNotInAClosedWindow() {
     WindowFixture fixture;
     WindowFixture::storeTask(u"A"_s, u"a.vnt"_s);
     fixture.window().StartItUp();
     QCOMPARE(fixture.strip(), VTULocalization::klStripConnecting());
     UploaderTask::Load();
     UploadThread::Enabled = true;
-    fromAnotherThread(fixture.startUp->tasksLoaded);
+    std::thread(fixture.startUp->tasksLoaded).join();
     QVERIFY(fixture.names().isEmpty());
-    QTRY_COMPARE(fixture.names(), QStringList{u"A"_s});
+    QTRY_COMPARE(fixture.names(), u"A"_s);
     QCOMPARE(fixture.strip(), VTULocalization::klStripChecking());
     UploaderTask::allTasks().first()->Status = UploaderTask::Ready;
     QTRY_VERIFY(fixture.strip().startsWith(u"All is well since "_s));
-  }
-
-  void aLateAnswerToAClosedWindowIsDropped() {
-    WindowFixture fixture;
-    fixture.window().StartItUp();
-    fromAnotherThread(fixture.startUp->tasksLoaded);
+    std::thread(fixture.startUp->tasksLoaded).join();
     fixture.destroyWindow();
-    QCoreApplication::processEvents();
-    fromAnotherThread([&fixture] { fixture.startUp->failed(u"late"_s); });
+    std::thread([&fixture] { fixture.startUp->failed(u"late"_s); }).join();
     QCoreApplication::processEvents();
     QVERIFY(!QApplication::activeModalWidget());
+  }
+
+  void noTaskIsChangedUntilTheTasksAreLoaded() {
+    WindowFixture fixture;
+    WindowFixture::storeTask(u"A"_s, u"a.vnt"_s);
+    UploaderTask::Load();
+    int changed = 0;
+    fixture.commands.createNewTask = [&changed] { return ++changed > 0; };
+    fixture.commands.editTask = [&changed](const TaskPointer&) { return ++changed > 0; };
+    fixture.window().ListTasks();
+    fixture.window().StartItUp();
+    fixture.select(0);
+    for (const char* const command : {"NewButton", "EditButton", "DuplicateButton", "RemoveButton"}) {
+      fixture.press(command);
+      QCOMPARE(fixture.strip(), VTULocalization::klStripConnecting());
+    }
+    QCOMPARE(changed, 0);
+    QCOMPARE(UploaderTask::allTasks().size(), 1);
+    std::thread(fixture.startUp->tasksLoaded).join();
+    QTRY_COMPARE(fixture.strip(), VTULocalization::klStripChecking());
+    fixture.press("NewButton");
+    QCOMPARE(changed, 1);
   }
 
   void aFailedStartIsToldAndEndsTheProgram() {
     WindowFixture fixture;
     fixture.window().StartItUp();
-    const Answer ok(QMessageBox::Ok);
-    fromAnotherThread([&fixture] { fixture.startUp->failed(u"the reason"_s); });
+    const BoxAnswer ok(QMessageBox::Ok);
+    std::thread([&fixture] { fixture.startUp->failed(u"the reason"_s); }).join();
     QCOMPARE(QApplication::exec(), 0);
-    QVERIFY(ok.question().contains(u"the reason"_s));
+    QVERIFY(ok.text().contains(u"the reason"_s));
   }
 
   void aTickBeginsARunOnlyWhileUploadingIsOn() {
     WindowFixture fixture;
+    fixture.listTasks({u"A"_s});
     auto* const ticks = fixture.control<QTimer>("StatusRefresher");
     QCOMPARE(ticks->interval(), 4000);
-    WindowFixture::loadOneTask();
-    fixture.window().ListTasks();
-    const auto picture = [&fixture] {
-      return fixture.list()->model()->index(0, 0).data(TaskListModel::CellTagRole).toInt();
-    };
-    const TaskPointer task = UploaderTask::allTasks().first();
     const QSignalSpy ticked(ticks, &QTimer::timeout);
     ticks->setInterval(1);
     QTRY_VERIFY(ticked.size() > 3);
     QVERIFY(!UploadThread::ProcessingNow());
-    QCOMPARE(task->Status.load(), UploaderTask::NotEvaluated);
+    QCOMPARE(UploaderTask::allTasks().first()->Status.load(), UploaderTask::NotEvaluated);
     UploadThread::Enabled = true;
+    const auto picture = [&] { return fixture.list()->model()->index(0, 0).data(TaskListModel::CellTagRole).toInt(); };
     QTRY_COMPARE(picture(), UploaderTask::Fault);  // the run found that the task has no input folder
-    QVERIFY(UploadThread::stop(5000));
-    UploadThread::allowAgain();
   }
 
-  void closingAsks() {
+  void closingAsksButNotAtTheEndOfTheSession() {
     WindowFixture fixture;
     (void)UploaderTask::TaskDirectory();  // makes the folder
     const QString marked = fixture.home.writeFile(u"data/vantry-uploader/Uploader Tasks/x.del"_s, "x");
     fixture.window().show();
-    const Answer no(QMessageBox::No);
+    const BoxAnswer no(QMessageBox::No);
     QVERIFY(!fixture.window().close());
-    QCOMPARE(no.question(), VTULocalization::klSureYouWantToQuit());
-    QVERIFY(fixture.window().isVisible());
-    QVERIFY(fixture.control<QTimer>("StatusRefresher")->isActive());
+    QCOMPARE(no.text(), VTULocalization::klSureYouWantToQuit());
+    QVERIFY(fixture.window().isVisible() && fixture.control<QTimer>("StatusRefresher")->isActive());
     QVERIFY(QFile::exists(marked));
-
-    const Answer yes(QMessageBox::Yes);
+    const BoxAnswer yes(QMessageBox::Yes);
     QTimer::singleShot(0, &fixture.window(), &QWidget::close);
     QCOMPARE(QApplication::exec(), 0);
-    QVERIFY(!fixture.window().isVisible());
-    QVERIFY(!QFile::exists(marked));
-  }
+    QVERIFY(!fixture.window().isVisible() && !QFile::exists(marked));
 
-  void theEndOfTheSessionClosesOverAnOpenQuestion() {
-    WindowFixture fixture;
-    fixture.window().show();
-    QTimer::singleShot(0, &fixture.window(), &QWidget::close);
-    QTimer watch;
-    connect(&watch, &QTimer::timeout, &fixture.window(), [&fixture] {
-      if (QApplication::activeModalWidget()) fixture.window().quitWithoutAsking();
-    });
-    watch.start(10);
+    WindowFixture ending;
+    ending.window().show();
+    QTimer::singleShot(0, &ending.window(), &QWidget::close);
+    const Inside<QMessageBox> over([&](QMessageBox&) { ending.window().quitWithoutAsking(); });
     QCOMPARE(QApplication::exec(), 0);
-    QVERIFY(!fixture.window().isVisible());
+    QVERIFY(over.done() && !ending.window().isVisible());
   }
 };
 

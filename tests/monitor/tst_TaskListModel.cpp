@@ -1,10 +1,14 @@
-// What a row of the task list shows, without a window.
+// What a row of the task list shows, without a window; and the helpers that all windows share.
 
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 
 #include "monitor/TaskListModel.h"
 #include "support/TestRunner.h"
+#include "widgets/Captions.h"
+#include "widgets/Mnemonics.h"
+#include "widgets/Pictures.h"
 
 using namespace Qt::Literals::StringLiterals;
 using Model = TaskListModel;
@@ -24,81 +28,83 @@ static QVariant cell(const Model& model, int row, int column, int role = Qt::Dis
 class tst_TaskListModel : public QObject {
   Q_OBJECT
  private slots:
-  void aRowShowsTheStateOfItsTask_data() {
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<bool>("disabled");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QString>("picture");
-    QTest::addColumn<bool>("grey");
-    QTest::newRow("uploading is off, whatever the task's state") << false << false << 2 << u"up_status_off"_s << true;
-    QTest::newRow("uploading is off, also for a fault") << false << false << 3 << u"up_status_off"_s << true;
-    QTest::newRow("a disabled task") << true << true << 2 << u"up_status_off"_s << true;
-    QTest::newRow("a fault of a disabled task stays hidden") << true << true << 3 << u"up_status_off"_s << true;
-    QTest::newRow("not yet evaluated") << true << false << 0 << u"up_status_off"_s << true;
-    QTest::newRow("being processed") << true << false << 1 << u"up_status_active"_s << false;
-    QTest::newRow("ready") << true << false << 2 << u"up_status_check"_s << false;
-    QTest::newRow("folder fault") << true << false << 3 << u"up_status_fail"_s << false;
-    QTest::newRow("a number that is no state is live, with the picture for off")
-        << true << false << 7 << u"up_status_off"_s << false;
-  }
   void aRowShowsTheStateOfItsTask() {
-    QFETCH(bool, enabled);
-    QFETCH(bool, disabled);
-    QFETCH(int, status);
-    QFETCH(QString, picture);
-    QFETCH(bool, grey);
-    Model model;
-    model.setTasks({makeTask(u"a"_s, status, disabled)}, enabled);
-    QCOMPARE(statusPicture(cell(model, 0, Model::StatusColumn, Model::CellTagRole).toLongLong()), picture);
-    const QVariant grey127 = QColor(127, 127, 127);
-    QCOMPARE(cell(model, 0, Model::NameColumn, Model::CellTagRole), grey ? grey127 : QVariant());
-    for (const int column : {Model::NameColumn, Model::DescriptionColumn, Model::FilesColumn})
-      QCOMPARE(cell(model, 0, column, Qt::ForegroundRole), grey ? grey127 : QVariant());
+    const struct {
+      const char* label;
+      bool enabled, disabled;
+      int status;
+      QString picture;
+      bool grey;
+    } rows[] = {{"uploading is off, also for a fault", false, false, 3, u"up_status_off"_s, true},
+                {"a disabled task", true, true, 2, u"up_status_off"_s, true},
+                {"a fault of a disabled task stays hidden", true, true, 3, u"up_status_off"_s, true},
+                {"not yet evaluated", true, false, 0, u"up_status_off"_s, true},
+                {"being processed", true, false, 1, u"up_status_active"_s, false},
+                {"ready", true, false, 2, u"up_status_check"_s, false},
+                {"folder fault", true, false, 3, u"up_status_fail"_s, false},
+                {"a number that is no state", true, false, 7, u"up_status_off"_s, false}};
+    for (const auto& row : rows) {
+      Model model;
+      model.setTasks({makeTask(u"a"_s, row.status, row.disabled)}, row.enabled);
+      const auto tag = cell(model, 0, Model::StatusColumn, Model::CellTagRole).toLongLong();
+      QVERIFY2(statusPicture(tag) == row.picture, row.label);
+      const QVariant colour = row.grey ? QVariant(QColor(127, 127, 127)) : QVariant();
+      QVERIFY2(cell(model, 0, Model::NameColumn, Model::CellTagRole) == colour, row.label);
+      for (const int column : {Model::NameColumn, Model::DescriptionColumn, Model::FilesColumn})
+        QVERIFY2(cell(model, 0, column, Qt::ForegroundRole) == colour, row.label);
+    }
   }
 
   void aRefreshAnnouncesWhatChangedAndNothingElse() {
-    const QList<TaskPointer> tasks{makeTask(u"a"_s), makeTask(u"b"_s), makeTask(u"c"_s)};
+    const QList<TaskPointer> tasks{makeTask(u"a\nb\u202e"_s), makeTask(u"b"_s, 0, true), makeTask(u"c"_s)};
+    tasks[0]->Description = u"<img src=x>"_s;
     Model model;
+    const QSignalSpy reset(&model, &Model::modelReset), inserted(&model, &Model::rowsInserted);
+    const QSignalSpy changed(&model, &Model::dataChanged);
     model.setTasks(tasks, true);
-    QSignalSpy changed(&model, &Model::dataChanged);
     model.refresh(true);
-    QCOMPARE(changed.size(), 0);
+    QVERIFY2(reset.size() == 1 && inserted.isEmpty() && changed.isEmpty(), "new rows come as one change");
+    QCOMPARE(cell(model, 0, Model::NameColumn).toString(), u"a b"_s);  // one line of plain text
+    QVERIFY(!cell(model, 0, Model::DescriptionColumn, Qt::ToolTipRole).toString().contains(u"<img"_s));
     tasks[0]->UploadedCount = 12345;
     tasks[2]->Status = UploaderTask::Fault;
     model.refresh(true);
     QCOMPARE(changed.size(), 2);
     QCOMPARE(changed[0][0].toModelIndex(), model.index(0, Model::FilesColumn));
     QCOMPARE(changed[1][0].toModelIndex(), model.index(2, Model::StatusColumn));
-    QCOMPARE(changed[1][1].toModelIndex(), model.index(2, Model::FilesColumn));
     QCOMPARE(cell(model, 0, Model::FilesColumn).toString(), u"12345"_s);
     QCOMPARE(model.faultyTasks(), QStringList(u"c"_s));
-  }
-
-  void newRowsComeAsOneChange() {
-    Model model;
-    QSignalSpy reset(&model, &Model::modelReset);
-    QSignalSpy inserted(&model, &Model::rowsInserted);
-    QSignalSpy changed(&model, &Model::dataChanged);
-    model.setTasks({makeTask(u"a"_s), makeTask(u"b"_s)}, true);
-    QCOMPARE(reset.size() + inserted.size() + changed.size(), 1);
-    QCOMPARE(cell(model, 0, Model::FilesColumn).toString(), u"0"_s);
-  }
-
-  void onlyAnEnabledTaskIsWaitedForAtTheStart() {
-    Model model;
-    model.setTasks({makeTask(u"a"_s), makeTask(u"b"_s, 0, true)}, true);
-    QVERIFY(!model.hasUnevaluated());
+    QVERIFY2(!model.hasUnevaluated(), "a disabled task is not waited for at the start");
     model.setTasks({makeTask(u"a"_s), makeTask(u"b"_s, 0)}, true);
     QVERIFY(model.hasUnevaluated());
   }
 
-  void aTextWithLineEndsAndMarkupStaysOneLineOfPlainText() {
-    const TaskPointer task = makeTask(u"a\nb\u202e"_s);
-    task->Description = u"<img src=x>"_s;
-    Model model;
-    model.setTasks({task}, true);
-    QCOMPARE(cell(model, 0, Model::NameColumn).toString(), u"a b"_s);
-    QVERIFY(!cell(model, 0, Model::DescriptionColumn, Qt::ToolTipRole).toString().contains(u"<img"_s));
+  void captionsGetASmallerFontAndALetterThatAKeyboardHas() {
+    QPushButton button;
+    button.resize(80, 20);
+    QFont large = button.font();
+    large.setPixelSize(17);
+    button.setFont(large);
+    setFittedCaption(button, u"Duplizieren"_s);
+    QVERIFY(button.fontMetrics().horizontalAdvance(u"Duplizieren"_s) <= 72 && button.toolTip().isEmpty());
+    setFittedCaption(button, u"A caption that no font makes fit"_s);
+    QVERIFY(button.toolTip().contains(u"no font makes fit"_s));
+    Mnemonics letters;
+    for (const auto& [text, marked] : {std::pair(u"Łącza"_s, u"&Łącza"_s),
+                                       {u"タスク名"_s, u"タスク名"_s},
+                                       {u"フォルダーのURL"_s, u"フォルダーの&URL"_s}})
+      QCOMPARE(letters.mark(text), marked);
+  }
+
+  void thePicturesOfTheStatesDifferInShapeAndAreSharpOnEveryScreen() {
+    QSet<QByteArray> outlines;
+    for (const auto& name : {u"up_status_off"_s, u"up_status_active"_s, u"up_status_check"_s, u"up_status_fail"_s}) {
+      for (const qreal ratio : {1.0, 1.5, 2.0}) QCOMPARE(Pictures::load(name, ratio).size(), QSize(20, 20) * ratio);
+      const QImage alpha = Pictures::load(name, 1).toImage().convertToFormat(QImage::Format_Alpha8);
+      outlines.insert(QByteArray(reinterpret_cast<const char*>(alpha.constBits()), alpha.sizeInBytes()));
+    }
+    QCOMPARE(outlines.size(), 4);
+    QVERIFY(Pictures::load(u"no such picture"_s, 1).isNull());
   }
 };
 

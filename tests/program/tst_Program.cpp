@@ -58,7 +58,8 @@ class tst_Program : public QObject {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("setAside");  // pattern of a name that appears beside it; empty if none shall
     QTest::newRow("first start") << QString() << QString();
-    QTest::newRow("damaged preferences") << u"config/vantry-uploader/VTUploaderAdmin.pref"_s << u"VTUploaderAdmin damaged*"_s;
+    QTest::newRow("damaged preferences") << u"config/vantry-uploader/VTUploaderAdmin.pref"_s
+                                         << u"VTUploaderAdmin damaged*"_s;
     QTest::newRow("damaged log") << u"data/vantry-uploader/VantryUploader.db"_s << u"VantryUploader damaged*"_s;
     QTest::newRow("damaged task") << u"data/vantry-uploader/Uploader Tasks/x.vnt"_s << QString();
     QTest::newRow("a file in place of the task folder") << u"data/vantry-uploader/Uploader Tasks"_s << QString();
@@ -85,6 +86,23 @@ class tst_Program : public QObject {
     QVERIFY(program.waitForFinished(20'000));
     QCOMPARE(program.exitStatus(), QProcess::NormalExit);
     QCOMPARE(program.exitCode(), 0);
+  }
+
+  void theProgramStartsInTheUsersLanguage() {
+    const TemporaryHome home;
+    QProcess program;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"LANGUAGE"_s, u"fi:pt_PT:de"_s);
+    environment.remove(u"LC_ALL"_s);
+    program.setProcessEnvironment(environment);
+    program.start(QCoreApplication::applicationDirPath() + u"/vantry-uploader"_s, {});
+    QByteArray said;
+    const auto speaks = [&] {
+      return (said += program.readAllStandardError()).contains("\nLanguage table vantry_pt_BR in");
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(speaks(), 30'000);
+    program.kill();
+    QVERIFY(program.waitForFinished());
   }
 };
 

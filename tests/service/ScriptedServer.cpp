@@ -6,28 +6,11 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-using namespace Qt::Literals::StringLiterals;
-
 static constexpr qsizetype MaxReceived = 1 << 20;
 
-static sockaddr_in loopback(int port) {
-  sockaddr_in address{};
-  address.sin_family = AF_INET;
-  address.sin_port = htons(static_cast<uint16_t>(port));
-  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-  return address;
-}
-
-static int connectTo(int port, int flags) {
-  const int socket = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | flags, 0);
-  const sockaddr_in address = loopback(port);
-  (void)connect(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address);
-  return socket;
-}
-
-static int listenOnLoopback(int& port) {
+static int bindToLoopback(int& port) {
   const int listener = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-  sockaddr_in address = loopback(0);
+  sockaddr_in address{AF_INET, 0, {htonl(INADDR_LOOPBACK)}, {}};
   socklen_t size = sizeof address;
   auto* generic = reinterpret_cast<sockaddr*>(&address);
   if (bind(listener, generic, size) != 0 || getsockname(listener, generic, &size) != 0) qFatal("no port");
@@ -37,13 +20,17 @@ static int listenOnLoopback(int& port) {
 
 int closedPort() {
   int port = 0;
-  close(listenOnLoopback(port));
+  close(bindToLoopback(port));
   return port;
 }
 
-HangingPort::HangingPort() : m_listener(listenOnLoopback(m_port)) {
+HangingPort::HangingPort() : m_listener(bindToLoopback(m_port)) {
   if (listen(m_listener, 0) != 0) qFatal("no listener");
-  for (int& socket : m_waiting) socket = connectTo(m_port, SOCK_NONBLOCK);
+  const sockaddr_in address{AF_INET, htons(static_cast<uint16_t>(m_port)), {htonl(INADDR_LOOPBACK)}, {}};
+  for (int& waiting : m_waiting) {
+    waiting = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    (void)connect(waiting, reinterpret_cast<const sockaddr*>(&address), sizeof address);
+  }
 }
 
 HangingPort::~HangingPort() {
@@ -52,7 +39,7 @@ HangingPort::~HangingPort() {
 }
 
 ScriptedServer::ScriptedServer(Script script) : m_script(std::move(script)), m_goingDown(eventfd(0, EFD_CLOEXEC)) {
-  m_listener = listenOnLoopback(m_port);
+  m_listener = bindToLoopback(m_port);
   if (listen(m_listener, 16) != 0) qFatal("no listener");
   m_thread = std::thread([this] { run(); });
 }
@@ -63,8 +50,6 @@ ScriptedServer::~ScriptedServer() {
   close(m_listener);
   close(m_goingDown);
 }
-
-QString ScriptedServer::url(const QString& path) const { return u"http://127.0.0.1:%1%2"_s.arg(m_port).arg(path); }
 
 QByteArray ScriptedServer::received() const {
   const std::lock_guard lock(m_mutex);
@@ -142,21 +127,4 @@ void ScriptedServer::Peer::reset() {
   setsockopt(m_socket, SOL_SOCKET, SO_LINGER, &now, sizeof now);
   close(m_socket);
   m_socket = -1;
-}
-
-void ScriptedServer::Peer::pipeTo(int port) {
-  const int other = connectTo(port, 0);
-  const int ends[] = {m_socket, other};
-  char piece[4096];
-  for (bool open = true; open;) {
-    pollfd waiting[] = {{m_socket, POLLIN, 0}, {other, POLLIN, 0}, {m_server.m_goingDown, POLLIN, 0}};
-    poll(waiting, 3, -1);
-    if (waiting[2].revents != 0) break;
-    for (int i = 0; i < 2 && open; ++i) {
-      if (waiting[i].revents == 0) continue;
-      const ssize_t count = recv(ends[i], piece, sizeof piece, 0);
-      open = count > 0 && send(ends[1 - i], piece, static_cast<size_t>(count), MSG_NOSIGNAL) == count;
-    }
-  }
-  close(other);
 }

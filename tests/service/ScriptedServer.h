@@ -18,7 +18,6 @@ class ScriptedServer {
     void holdUntilItLeaves();     ///< reads and drops what comes until the client has closed
     bool wait(int milliseconds);  ///< false if the server is being taken down
     void reset();                 ///< ends the connection with a reset
-    void pipeTo(int port);        ///< carries bytes both ways between it and a port on 127.0.0.1, to the end
     [[nodiscard]] int descriptor() const { return m_socket; }
 
    private:
@@ -39,7 +38,7 @@ class ScriptedServer {
   ScriptedServer& operator=(const ScriptedServer&) = delete;
 
   [[nodiscard]] int port() const { return m_port; }
-  [[nodiscard]] QString url(const QString& path = {}) const;
+  [[nodiscard]] QString url() const { return QStringLiteral("http://127.0.0.1:%1/").arg(m_port); }
   [[nodiscard]] QByteArray received() const;  ///< what scripts have read, the first megabyte of it
   /// A script that takes a request without content, answers and closes.
   static Script answer(const QByteArray& reply);

@@ -1,187 +1,142 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <QFile>
-#include <QTest>
+#include <QDir>
+#include <atomic>
+#include <thread>
 
 #include "platform/FileCipher.h"
 #include "storage/DictionaryFile.h"
 #include "storage/DictionaryFormat.h"
+#include "support/FailingFileOps.h"
 #include "support/TemporaryHome.h"
 #include "support/TestRunner.h"
 
 using namespace Qt::Literals::StringLiterals;
 
-static QByteArray enciphered(const QByteArray& plain, const QString& key = u"FifteenLetters!"_s) {
+static const QString Key = u"FifteenLetters!"_s;
+
+static QByteArray enciphered(const QByteArray& plain, const QString& key = Key) {
   FileCipher cipher;
   cipher.Init(key);
   return cipher.Encode(plain).toBase64();
 }
 
-static QByteArray sampleFile(const TemporaryHome& home) {
-  DictionaryFile file;
-  file.setStringValue(u"SoapPassword"_s, u"hush/\"quiet\" ünd\n"_s);
-  file.setBooleanValue(u"Lock"_s, true);
-  file.setIntegerValue(u"ProxyPort"_s, 8080);
-  file.setDoubleValue(u"Press 1lastprocessed"_s, 1700000000);
-  return file.save(home.item(u"sample"_s)) ? TemporaryHome::readFile(home.path(u"sample"_s)) : QByteArray();
-}
-
-static const QByteArray SampleJson =
-    "{\"SoapPassword\":\"hush\\/\\\"quiet\\\" ünd\\n\",\"Lock\":true,\"ProxyPort\":8080,"
-    "\"Press 1lastprocessed\":1700000000.0}";
-
-/// What stands in a dictionary file and what comes out of it.
 class tst_DictionaryFile : public QObject {
   Q_OBJECT
   const TemporaryHome m_home;
+
+  [[nodiscard]] QByteArray sampleFile() const {
+    DictionaryFile file;
+    file.setStringValue(u"SoapPassword"_s, u"hush/\"quiet\" ünd\n"_s);
+    file.setBooleanValue(u"Lock"_s, true);
+    file.setIntegerValue(u"ProxyPort"_s, 8080);
+    file.setDoubleValue(u"Press 1lastprocessed"_s, 1700000000);
+    return file.save(m_home.item(u"sample"_s)) ? TemporaryHome::readFile(m_home.path(u"sample"_s)) : QByteArray();
+  }
+  static QString valueOnDisk(const FolderItem& at) {
+    DictionaryFile file;
+    return file.open(at).ok() ? file.StringValue(u"Name"_s) : u"unreadable"_s;
+  }
+
  private slots:
-  void init() { DictionaryFile::setSolutionKey(u"FifteenLetters!"_s); }
+  void init() { DictionaryFile::setSolutionKey(Key); }
   void cleanup() { DictionaryFile::setSolutionKey({}); }
 
   void everyTypeComesBackInItsOrder() {
-    const FolderItem folder = m_home.item(u"In & out/ä"_s);
+    const FolderItem folder = m_home.item(u"In & out/ä"_s), at = m_home.item(u"types.vnt"_s);
     DictionaryFile written, read;
-    written.setStringValue(u"text"_s, u"a\u2028b\U0001F5A8"_s);
+    written.setStringValue(u"text"_s, u"x"_s);
     written.setStringValue(u"gone"_s, u"x"_s);
     written.setBooleanValue(u"flag"_s, true);
     written.setIntegerValue(u"least"_s, std::numeric_limits<qint64>::min());
     written.setDoubleValue(u"date"_s, 1700000000.1234567);
-    written.setDoubleValue(u"infinite"_s, std::numeric_limits<double>::infinity());
     written.setFileValue(u"folder"_s, folder);
     written.setFileValue(u"none"_s, std::nullopt);
     written.Remove(u"gone"_s);
-    written.setStringValue(u"text"_s, u"b\u2028b\U0001F5A8"_s);
-    QVERIFY(written.save(m_home.item(u"types.vnt"_s)) && read.open(m_home.item(u"types.vnt"_s)).ok());
-    QCOMPARE(written.Keys().join(u' '), u"text flag least date infinite folder none"_s);
-    QCOMPARE(read.Keys(), written.Keys());
-    QCOMPARE(read.StringValue(u"text"_s), u"b\u2028b\U0001F5A8"_s);
-    QVERIFY(read.BooleanValue(u"flag"_s));
+    written.setStringValue(u"text"_s, u"a\u2028b\U0001F5A8"_s);
+    QVERIFY(written.save(at) && read.open(at).ok());
+    QCOMPARE(read.Keys().join(u' '), u"text flag least date folder none"_s);
+    QCOMPARE(read.StringValue(u"text"_s), u"a\u2028b\U0001F5A8"_s);
+    QVERIFY(read.BooleanValue(u"flag"_s) && read.FileValue(u"folder"_s) == folder);
     QCOMPARE(read.integerValue(u"least"_s), std::numeric_limits<qint64>::min());
     QCOMPARE(read.DoubleValue(u"date"_s), 1700000000.1234567);
-    QCOMPARE(read.DoubleValue(u"infinite"_s), 0.0);
-    QVERIFY(read.FileValue(u"folder"_s) == folder);
     QVERIFY(!read.FileValue(u"none"_s) && !read.FileValue(u"missing"_s) && !read.HasKey(u"Flag"_s));
   }
 
   void theFileIsBase64InLinesOverACipherOverJson() {
-    const QByteArray content = sampleFile(m_home);
-    const QList<QByteArray> lines = content.split('\n');
-    for (qsizetype i = 0; i + 1 < lines.size(); ++i) QCOMPARE(lines[i].size(), 76);
-    QVERIFY(lines.size() > 2 && !lines.last().isEmpty() && lines.last().size() <= 76);
+    const QByteArray json =
+        "{\"SoapPassword\":\"hush\\/\\\"quiet\\\" ünd\\n\",\"Lock\":true,\"ProxyPort\":8080,"
+        "\"Press 1lastprocessed\":1700000000.0}";
+    const QByteArray content = sampleFile();
+    for (qsizetype at = 76; at < content.size(); at += 77) QCOMPARE(content[at], '\n');
+    QVERIFY(content.size() > 2 * 77 && content.count('\n') == content.size() / 77 && !content.endsWith('\n'));
     FileCipher cipher;
-    cipher.Init(u"FifteenLetters!"_s);
-    QCOMPARE(cipher.Decode(QByteArray::fromBase64(lines.join())).value_or("unreadable"), SampleJson);
-    QVERIFY2(content != sampleFile(m_home), "the nonce is not fresh");
-    DictionaryFile::setSolutionKey({});
-    QCOMPARE(sampleFile(m_home), SampleJson);
-    DictionaryFile plain;
-    m_home.writeFile(u"plain"_s, "\r\n{ \"Name\" :\t\"other\" }\n");
-    QVERIFY(plain.open(m_home.item(u"plain"_s)).ok());
-    QCOMPARE(plain.StringValue(u"Name"_s), u"other"_s);
-  }
-
-  void anyLineEndIsTaken() {
-    const QByteArray whole = sampleFile(m_home);
+    cipher.Init(Key);
+    QCOMPARE(cipher.Decode(QByteArray::fromBase64(content)).value_or("unreadable"), json);
+    QVERIFY2(content != sampleFile(), "the nonce is not fresh");
     for (const char* lineEnd : {"\r\n", "\r", "", " \t\n\n  "}) {
       Dictionary read;
-      const IoResult result =
-          DictionaryFormat::read(QByteArray(whole).replace("\n", lineEnd) + lineEnd, u"FifteenLetters!"_s, read);
-      QVERIFY2(result.ok() && read.Value(u"ProxyPort"_s) == 8080, QByteArray(lineEnd).toHex().constData());
+      const QByteArray other = QByteArray(content).replace("\n", lineEnd) + lineEnd;
+      QVERIFY(DictionaryFormat::read(other, Key, read).ok() && read.Value(u"ProxyPort"_s) == 8080);
+    }
+    DictionaryFile::setSolutionKey({});
+    QCOMPARE(sampleFile(), json);
+  }
+
+  void aValueOfAnotherTypeIsConverted() {
+    const FolderItem at = m_home.item(u"values"_s);
+    m_home.writeFile(u"values"_s, enciphered(R"({"a":true,"b":-1.75,"c":9223372036854775808,"d":-1e20,"e":" 8080 ",)"
+                                             R"("f":"9007199254740993","g":"True","h":"80 or so","i":null,"j":[1]})"));
+    DictionaryFile file;
+    // What was not understood is still written as it was.
+    QVERIFY(file.open(at).ok() && file.save() && file.open(at).ok());
+    QString all;
+    for (const QString& key : file.Keys())
+      all += file.StringValue(key) +
+             u" %1 %2 %3|"_s.arg(file.BooleanValue(key)).arg(file.integerValue(key)).arg(file.DoubleValue(key));
+    QCOMPARE(all,
+             u"true 1 1 1|-1.75 1 -1 -1.75|9223372036854775808.0 1 9223372036854775807 9.22337e+18|"
+             "-100000000000000000000.0 1 -9223372036854775808 -1e+20| 8080  1 8080 8080|"
+             "9007199254740993 1 9007199254740993 9.0072e+15|True 1 0 0|80 or so 0 0 0| 0 0 0| 0 0 0|"_s);
+  }
+
+  void whatIsNoDictionaryIsRefusedAndKept() {
+    const TemporaryHome home;
+    const auto nativePath = [&home](const QString& name) { return home.item(name).bytes(); };
+    home.writeFile(u"an empty file"_s, {});
+    home.writeFile(u"plain JSON under a key"_s, R"({"SoapPassword":"hush"})");
+    home.writeFile(u"another key"_s, enciphered(R"({"SoapPassword":"hush"})", u"another"_s));
+    home.writeFile(u"an array"_s, enciphered(R"(["hush"])"));
+    home.writeFile(u"JSON that breaks off"_s, enciphered("{\"SoapPassword\":\"hush\","));
+    home.writeFile(u"nothing enciphered"_s, enciphered(""));
+    home.writeFile(u"gigabytes"_s, "A");
+    home.makeFolder(u"a folder"_s);
+    QCOMPARE(truncate(nativePath(u"gigabytes"_s), 5LL << 30), 0);
+    QCOMPARE(mkfifo(nativePath(u"a fifo"_s), 0600), 0);
+    QCOMPARE(symlink("a loop", nativePath(u"a loop"_s)), 0);
+    QCOMPARE(symlink("gone", nativePath(u"a link to nowhere"_s)), 0);
+    for (const QString& name : QDir(home.path()).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)) {
+      const FolderItem bad = home.item(name == u"run"_s ? u"an array/below.vnt"_s : name);
+      struct stat before {
+      }, after{};
+      const int there = lstat(bad.bytes(), &before);
+      DictionaryFile file;
+      file.setStringValue(u"old"_s, u"value"_s);
+      const QString words = file.open(bad).message();
+      QVERIFY2(!words.isEmpty() && !words.contains(u"hush") && file.Keys().isEmpty(), qPrintable(name));
+      QVERIFY2(!file.save() && !file.save(bad) && !file.Export(bad), qPrintable(name));
+      QVERIFY(!file.lastFailure().ok() && lstat(bad.bytes(), &after) == there);
+      QVERIFY2(before.st_ino == after.st_ino && before.st_size == after.st_size, "it was written over");
     }
   }
 
-  void aValueOfAnotherTypeIsConverted_data() {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("boolean");
-    QTest::addColumn<qint64>("integer");
-    QTest::addColumn<double>("real");
-    const auto row = [](const char* json, const char* text, bool boolean, qint64 integer, double real) {
-      QTest::newRow(json) << QString::fromUtf8(text) << boolean << integer << real;
-    };
-    row("true", "true", true, 1, 1);
-    row("false", "false", false, 0, 0);
-    row("8080", "8080", true, 8080, 8080);
-    row("0", "0", false, 0, 0);
-    row("-1.75", "-1.75", true, -1, -1.75);
-    row("1e3", "1000.0", true, 1000, 1000);
-    row("9223372036854775808", "9223372036854775808.0", true, std::numeric_limits<qint64>::max(),
-        9.223372036854775808e18);
-    row("-1e20", "-100000000000000000000.0", true, std::numeric_limits<qint64>::min(), -1e20);
-    row(R"("")", "", false, 0, 0);
-    row(R"(" 8080 ")", " 8080 ", true, 8080, 8080);
-    row(R"("9007199254740993")", "9007199254740993", true, 9007199254740993, 9007199254740992.0);
-    row(R"("2.5")", "2.5", true, 2, 2.5);
-    row(R"("True")", "True", true, 0, 0);
-    row(R"("80 or so")", "80 or so", false, 0, 0);
-    row(R"("inf")", "inf", false, 0, 0);
-    row("null", "", false, 0, 0);
-    row("[1]", "", false, 0, 0);
-  }
-  void aValueOfAnotherTypeIsConverted() {
-    m_home.writeFile(u"value"_s, enciphered(QByteArray("{\"k\":") + QTest::currentDataTag() + '}'));
-    DictionaryFile file;
-    QVERIFY(file.open(m_home.item(u"value"_s)).ok());
-    QTEST(file.StringValue(u"k"_s), "text");
-    QTEST(file.BooleanValue(u"k"_s), "boolean");
-    QTEST(file.integerValue(u"k"_s), "integer");
-    QTEST(file.DoubleValue(u"k"_s), "real");
-    // What was not understood is still written as it was.
-    QVERIFY(file.save() && file.open(m_home.item(u"value"_s)).ok() && file.HasKey(u"k"_s));
-  }
-
-  void whatIsNoDictionaryIsRefusedAndKept_data() {
-    QTest::addColumn<QByteArray>("content");
-    const auto row = [](const char* label, const QByteArray& content = {}) { QTest::newRow(label) << content; };
-    row("an empty file");
-    row("plain JSON under a key", R"({"SoapPassword":"hush"})");
-    row("another key", enciphered(R"({"SoapPassword":"hush"})", u"another"_s));
-    row("an array", enciphered(R"(["hush"])"));
-    row("JSON that breaks off behind a secret", enciphered("{\"SoapPassword\":\"hush\","));
-    row("nothing enciphered", enciphered(""));
-    row("too short for a cipher", "AAAA");
-    for (const char* special : {"a folder", "a link that leads to itself", "a link that leads nowhere", "a fifo",
-                                "a file of gigabytes", "a path through a file"})
-      row(special);
-  }
-  void whatIsNoDictionaryIsRefusedAndKept() {
-    QFETCH(QByteArray, content);
-    const QByteArray label = QTest::currentDataTag();
-    const TemporaryHome home;
-    FolderItem bad = home.item(u"bad"_s);
-    const QByteArray path = bad.bytes();
-    if (label == "a folder")
-      home.makeFolder(u"bad"_s);
-    else if (label == "a fifo")
-      QCOMPARE(mkfifo(path.constData(), 0600), 0);
-    else if (label == "a file of gigabytes")
-      QVERIFY(QFile(home.writeFile(u"bad"_s, "A")).resize(5LL << 30));
-    else if (label.endsWith("itself"))
-      QCOMPARE(symlink(path.constData(), path.constData()), 0);
-    else if (label.endsWith("nowhere"))
-      QCOMPARE(symlink("gone", path.constData()), 0);
-    else
-      home.writeFile(u"bad"_s, content);
-    if (label == "a path through a file") bad = bad.Child(u"task.vnt"_s);
-
-    struct stat before, after;
-    QCOMPARE(lstat(path.constData(), &before), 0);
-    DictionaryFile file;
-    file.setStringValue(u"old"_s, u"value"_s);
-    const IoResult read = file.open(bad);
-    QVERIFY2(!read.message().isEmpty() && !read.message().contains(u"hush"), qPrintable(read.message()));
-    QCOMPARE(file.Keys(), QStringList());
-    QVERIFY2(!file.save() && !file.save(bad) && !file.Export(bad), "a file that was not understood was written over");
-    QVERIFY(!file.lastFailure().ok());
-    QVERIFY(lstat(path.constData(), &after) == 0 && before.st_ino == after.st_ino && before.st_size == after.st_size);
-  }
-
   void noCutAndNoFlippedBitGoesUnnoticed() {
-    const QByteArray whole = sampleFile(m_home);
+    const QByteArray whole = sampleFile();
     const auto letters = [](const QByteArray& text) { return text.simplified().replace(" ", ""); };
     const auto judge = [&](const QByteArray& damaged) {
       Dictionary read;
-      const bool ok = DictionaryFormat::read(damaged, u"FifteenLetters!"_s, read).ok();
+      const bool ok = DictionaryFormat::read(damaged, Key, read).ok();
       // Another white space in place of a line end is no damage.
       return ok == (letters(damaged) == letters(whole)) && read.Count() == (ok ? 4 : 0);
     };
@@ -193,6 +148,44 @@ class tst_DictionaryFile : public QObject {
         QVERIFY2(judge(flipped), qPrintable(u"bit %1 of byte %2"_s.arg(bit).arg(at)));
       }
     }
+  }
+
+  void anExportLeavesTheLocationASaveElsewhereMovesItAndAFullDiskTheOldFile() {
+    const FolderItem first = m_home.item(u"first"_s), copy = m_home.item(u"copy"_s), second = m_home.item(u"second"_s);
+    FailingFileOps ops;
+    DictionaryFile file(ops);
+    QVERIFY2(!file.save() && !file.lastFailure().message().isEmpty(), "saved without a location");
+    QVERIFY(file.open(first).ok());
+    file.setStringValue(u"Name"_s, u"one"_s);
+    QVERIFY(file.Export(copy) && file.location() == first && !first.Exists());
+    QVERIFY(file.save(second));
+    file.setStringValue(u"Name"_s, u"two"_s);
+    QVERIFY(file.save() && !first.Exists());
+    ops.bytesUntilFull = 70;
+    file.setStringValue(u"Name"_s, u"three"_s);
+    QVERIFY(!file.save());
+    QCOMPARE(file.lastFailure().error, ENOSPC);
+    QCOMPARE(valueOnDisk(copy) + valueOnDisk(second), u"onetwo"_s);
+  }
+
+  void manyThreadsMaySaveAndReadAtOnce() {
+    constexpr int Threads = 3, Rounds = 25;
+    const FolderItem at = m_home.item(u"threads"_s);
+    DictionaryFile shared, last;
+    QVERIFY(shared.save(at));
+    std::atomic<int> failed{0};
+    std::vector<std::jthread> threads;
+    for (int t = 0; t < Threads; ++t)
+      threads.emplace_back([&, mine = u"counter %1"_s.arg(t)] {
+        for (int round = 1; round <= Rounds; ++round) {
+          shared.setIntegerValue(mine, round);
+          DictionaryFile seen;
+          failed += !shared.save() || !seen.open(at).ok() || seen.integerValue(mine) != round;
+        }
+      });
+    threads.clear();
+    QVERIFY(failed == 0 && last.open(at).ok());
+    for (int t = 0; t < Threads; ++t) QCOMPARE(last.integerValue(u"counter %1"_s.arg(t)), Rounds);
   }
 };
 

@@ -79,19 +79,14 @@ void EngineBench::restart() {
 QList<EngineBench::Row> EngineBench::log() const {
   sqlite3* db = nullptr;
   QList<Row> rows;
+  const auto keep = [](void* list, int columns, char** values, char** names) {
+    Row& row = static_cast<QList<Row>*>(list)->emplace_back();
+    for (int i = 0; i < columns; ++i) row[QString::fromUtf8(names[i])] = QString::fromUtf8(values[i]);
+    return 0;
+  };
   const QByteArray path = SpecialFolder::ApplicationData().Child(u"VantryUploader.db"_s).bytes();
-  if (sqlite3_open_v2(path.constData(), &db, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK) {
-    sqlite3_stmt* query = nullptr;
-    sqlite3_prepare_v2(db, "select * from log order by _rowid", -1, &query, nullptr);
-    while (sqlite3_step(query) == SQLITE_ROW) {
-      Row row;
-      for (int i = 0; i < sqlite3_column_count(query); ++i)
-        row[QString::fromUtf8(sqlite3_column_name(query, i))] =
-            QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(query, i)));
-      rows << row;
-    }
-    sqlite3_finalize(query);
-  }
+  if (sqlite3_open_v2(path.constData(), &db, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK)
+    sqlite3_exec(db, "select * from log order by _rowid", keep, &rows, nullptr);
   sqlite3_close(db);
   return rows;
 }

@@ -27,7 +27,8 @@ class EngineBench {
   /// A whole pass of one task on the calling thread.
   static void process(UploaderTask& task);
   /// A file of the input folder that has been at rest for a minute.
-  QString drop(const QString& name, const QByteArray& content = "patch data", const QString& folder = QStringLiteral("in")) const;
+  QString drop(const QString& name, const QByteArray& content = "patch data",
+               const QString& folder = QStringLiteral("in")) const;
   /// Writes the preferences and reads them anew, as a new start of the program does.
   void restart();
 

@@ -1,6 +1,7 @@
 #pragma once
 // File operations of which the n-th fails, and writes that stop after so many bytes, as a full disk does.
 
+#include <algorithm>
 #include <cerrno>
 
 #include "platform/FileOps.h"
@@ -17,44 +18,34 @@ class FailingFileOps : public FileOps {
   }
   ssize_t read(int fd, void* buffer, size_t size) override { return fails() ? -1 : FileOps::read(fd, buffer, size); }
   ssize_t write(int fd, const void* buffer, size_t size) override {
-    if (fails()) return -1;
-    if (bytesUntilFull >= 0) {
-      if (bytesUntilFull == 0) return refuse();
-      if (static_cast<long>(size) > bytesUntilFull) size = static_cast<size_t>(bytesUntilFull);
-      bytesUntilFull -= static_cast<long>(size);
-    }
-    return FileOps::write(fd, buffer, size);
+    return fails() || !hasRoom(size) ? -1 : used(FileOps::write(fd, buffer, size));
   }
   ssize_t copyRange(int from, int to, size_t size) override {
-    if (fails()) return -1;
-    if (bytesUntilFull >= 0) {
-      if (bytesUntilFull == 0) return refuse();
-      if (static_cast<long>(size) > bytesUntilFull) size = static_cast<size_t>(bytesUntilFull);
-    }
-    const ssize_t done = FileOps::copyRange(from, to, size);
-    if (bytesUntilFull >= 0 && done > 0) bytesUntilFull -= static_cast<long>(done);
-    return done;
+    return fails() || !hasRoom(size) ? -1 : used(FileOps::copyRange(from, to, size));
   }
   int sync(int fd) override { return fails() ? -1 : FileOps::sync(fd); }
   int close(int fd) override {
-    const bool fail = fails();
     const int result = FileOps::close(fd);
-    return fail ? refuse() : result;
+    return fails() ? -1 : result;
   }
   int rename(const char* from, const char* to) override { return fails() ? -1 : FileOps::rename(from, to); }
   int renameNoReplace(const char* from, const char* to) override {
     return fails() ? -1 : FileOps::renameNoReplace(from, to);
   }
-  int unlink(const char* path) override { return FileOps::unlink(path); }
 
  private:
-  int refuse() const {
-    errno = errnoValue;
-    return -1;
-  }
   bool fails() {
-    if (calls++ != failAtCall) return false;
+    errno = calls == failAtCall ? errnoValue : errno;
+    return calls++ == failAtCall;
+  }
+  bool hasRoom(size_t& size) {
+    if (bytesUntilFull < 0) return true;
     errno = errnoValue;
-    return true;
+    size = std::min(size, static_cast<size_t>(bytesUntilFull));
+    return size > 0;
+  }
+  ssize_t used(ssize_t bytes) {
+    if (bytesUntilFull > 0) bytesUntilFull -= std::max<ssize_t>(bytes, 0);
+    return bytes;
   }
 };

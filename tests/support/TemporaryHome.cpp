@@ -6,35 +6,25 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <chrono>
 #include <cmath>
 #include <filesystem>
 
-static void restore(const char* name, const QByteArray& value) {
-  if (value.isNull()) qunsetenv(name);
-  else qputenv(name, value);
-}
+using namespace Qt::Literals::StringLiterals;
 
-static QByteArray replace(const char* name, const QString& value) {
-  const QByteArray old = qEnvironmentVariableIsSet(name) ? qgetenv(name) : QByteArray();
-  qputenv(name, QFile::encodeName(value));
-  return old;
-}
+static constexpr std::array Variables{"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"};
 
 TemporaryHome::TemporaryHome() {
-  m_oldHome = replace("HOME", m_dir.path());
-  m_oldData = replace("XDG_DATA_HOME", path(QStringLiteral("data")));
-  m_oldConfig = replace("XDG_CONFIG_HOME", path(QStringLiteral("config")));
-  m_oldRuntime = replace("XDG_RUNTIME_DIR", makeFolder(QStringLiteral("run")));
-  QFile::setPermissions(path(QStringLiteral("run")),
-                        QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+  const QString values[] = {m_dir.path(), path(u"data"_s), path(u"config"_s), makeFolder(u"run"_s)};
+  for (size_t i = 0; i < Variables.size(); ++i) {
+    m_before[i] = qgetenv(Variables[i]);
+    qputenv(Variables[i], QFile::encodeName(values[i]));
+  }
+  ::chmod(item(u"run"_s).bytes().constData(), 0700);
 }
 
 TemporaryHome::~TemporaryHome() {
-  restore("HOME", m_oldHome);
-  restore("XDG_DATA_HOME", m_oldData);
-  restore("XDG_CONFIG_HOME", m_oldConfig);
-  restore("XDG_RUNTIME_DIR", m_oldRuntime);
+  for (size_t i = 0; i < Variables.size(); ++i)
+    m_before[i].isNull() ? qunsetenv(Variables[i]) : qputenv(Variables[i], m_before[i]);
   // Qt's own removal, which follows, can't reach names that are not UTF-8.
   std::error_code ignored;
   std::filesystem::remove_all(QFile::encodeName(m_dir.path()).constData(), ignored);
@@ -58,17 +48,14 @@ QString TemporaryHome::writeFile(const QString& relative, const QByteArray& cont
   if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
     qFatal("cannot write %s", qPrintable(full));
   file.close();
-  if (secondsAgo != 0) {
-    const auto now = std::chrono::duration<double>(std::chrono::system_clock::now().time_since_epoch()).count();
-    setDate(full, now - secondsAgo);
-  }
+  if (secondsAgo != 0) setDate(full, Date().TotalSeconds() - secondsAgo);
   return full;
 }
 
 void TemporaryHome::setDate(const QString& path, double secondsSince1970) {
-  timespec times[2];
-  times[0].tv_sec = times[1].tv_sec = static_cast<time_t>(std::floor(secondsSince1970));
-  times[0].tv_nsec = times[1].tv_nsec = static_cast<long>((secondsSince1970 - std::floor(secondsSince1970)) * 1e9);
+  const double whole = std::floor(secondsSince1970);
+  const timespec date{static_cast<time_t>(whole), static_cast<long>((secondsSince1970 - whole) * 1e9)};
+  const timespec times[] = {date, date};
   if (utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times, 0) != 0)
     qFatal("cannot set the date of %s", qPrintable(path));
 }

@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QString>
 #include <QTemporaryDir>
+#include <array>
 
 #include "platform/FolderItem.h"
 
@@ -25,5 +26,5 @@ class TemporaryHome {
 
  private:
   QTemporaryDir m_dir;
-  QByteArray m_oldHome, m_oldData, m_oldConfig, m_oldRuntime;
+  std::array<QByteArray, 4> m_before;
 };

@@ -1,8 +1,8 @@
 #pragma once
-// Lets one program hold several QtTest classes, a file each: VANTRY_TEST(ClassName) at the end of each file, and a
-// main() that makes the application object and calls runAllTests.
+// Lets one program hold several QtTest classes, a file each: VANTRY_TEST(ClassName) at the end of each file, and
+// main.cpp, or a main() that makes another application object and calls runAllTests.
 
-#include <QObject>
+#include <QTest>
 #include <functional>
 #include <memory>
 
@@ -12,6 +12,12 @@ bool add(std::function<std::unique_ptr<QObject>()> make);
 /// command line runs that alone: tst_room ClassName [function].
 int runAllTests(int argc, char** argv);
 }  // namespace TestRunner
+
+/// The columns of a table of rows, in one line: addColumns<QString, int>("name", "error").
+template <typename... Types>
+void addColumns(auto... names) {
+  (QTest::addColumn<Types>(names), ...);
+}
 
 #define VANTRY_TEST(Class) \
   static const bool registered_##Class = TestRunner::add([] { return std::unique_ptr<QObject>(new Class); })

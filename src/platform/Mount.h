@@ -1,0 +1,39 @@
+#pragma once
+// Mounts a share for the program's user, through the desktop's mount service (GIO/GVfs), which shows it as a folder.
+
+#include <QString>
+#include <cerrno>
+#include <functional>
+
+struct MountRequest {
+  QString url;             ///< smb, dav, davs, sftp, nfs, afp; escaped as a URL, but blanks may stand
+  QString mountDirectory;  ///< empty leaves the place to the platform, which knows no other
+  QString userName;        ///< a domain stands before a backslash or behind an @
+  QString password;
+  bool interactive = false;
+  bool prompt = false;
+  bool threaded = false;
+  /// Asked ten times a second; true gives up with ECANCELED.
+  std::function<bool()> cancelled;
+};
+
+/// What `errorCode` tells when a mount fails, beside codes of the system that need no words of ours.
+namespace MountError {
+constexpr int NoSession = ENOTCONN;  ///< no session bus, so no mount service
+constexpr int LoginRefused = EACCES;
+constexpr int Question = EPERM;            ///< something only a person can confirm, as a host key never seen
+constexpr int Unreachable = EHOSTUNREACH;  ///< nobody answers at that address
+constexpr int NotThere = ENOENT;           ///< the server has no such share or folder
+constexpr int TimedOut = ETIMEDOUT;
+constexpr int Cancelled = ECANCELED;
+constexpr int NotSupported = EPROTONOSUPPORT;  ///< nothing installed mounts that kind of address
+constexpr int NoFolder = ENODEV;               ///< mounted, but not shown as a folder: FUSE is missing
+}  // namespace MountError
+
+/// The address as it may be shown and logged: without what stands before an @ of its server.
+[[nodiscard]] QString shareForDisplay(const QString& url);
+
+/// Mounts a share without asking anybody and gives its folder as a local path, or the empty string and an errno (see
+/// MountError). A share that is mounted already is a success. Blocks for `limitMs` at most, then gives up with
+/// ETIMEDOUT. The login goes to the mount service over the session bus, and nowhere else. Any thread.
+[[nodiscard]] QString mountShare(const MountRequest& request, int& errorCode, int limitMs = 60'000);

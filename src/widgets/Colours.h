@@ -1,0 +1,11 @@
+#pragma once
+// Colours that windows of several rooms share, chosen so that they can be read on the palette's own ground, light or
+// dark. Plain functions; any thread.
+
+#include <QColor>
+#include <QPalette>
+
+/// The red of a label whose entry is missing.
+[[nodiscard]] QColor requiredColor(const QPalette& palette);
+/// The ground's text colour with `parts` of eight of the ground itself, for lines and text that stay in the back.
+[[nodiscard]] QPalette quieter(const QPalette& palette, int parts);

@@ -1,0 +1,101 @@
+// The connection test of the admin window against the practice service, as the user sees it.
+
+#include "AdminFixture.h"
+#include "practice/PracticeProxy.h"
+#include "text/VTULocalization.h"
+
+using namespace Qt::Literals::StringLiterals;
+using namespace VTULocalization;
+using Mis = Misbehaviour::Kind;
+using Proxy = PracticeProxy::Behaviour::Kind;
+
+class tst_ConnectionTest : public QObject {
+  Q_OBJECT
+ private slots:
+  void whatTheServiceAnswersIsSaid_data() {
+    addColumns<std::optional<Mis>, std::optional<Proxy>, QString, QString>("misbehaviour", "behaviour", "line", "code");
+    const auto row = [&](const char* label, std::optional<Mis> mis, std::optional<Proxy> proxy, const QString& line,
+                         const QString& code = {}) { QTest::newRow(label) << mis << proxy << line << code; };
+    row("all is well", {}, {}, klTestSucceeded());
+    row("a refused login", Mis::ErrorCode, {}, klTestErrorAnswered(), u"E009"_s);
+    row("no return text", Mis::NoReturn, {}, klTestErrorAnswered(), u"err"_s);
+    row("no XML", Mis::NotXml, {}, klTestNotTheService());
+    row("a reply that is cut", Mis::CutReply, {}, klTestBroken());
+    row("a handshake that is cut", Mis::CutHandshake, {}, klTestTlsFailed());
+    row("by way of a proxy", {}, Proxy::Tunnel, klTestSucceededProxy());
+    row("a proxy that refuses", {}, Proxy::Refuse, klTestProxyRefused());
+  }
+  void whatTheServiceAnswersIsSaid() {
+    QFETCH(std::optional<Mis>, misbehaviour);
+    QFETCH(std::optional<Proxy>, behaviour);
+    QFETCH(QString, line);
+    QFETCH(QString, code);
+    AdminFixture fixture;
+    PracticeService service;
+    QTRY_VERIFY_WITH_TIMEOUT(fixture.startAtDefaultPort(service), 60'000);
+    PracticeProxy proxy;
+    QVERIFY(proxy.start());
+    if (misbehaviour) service.misbehave({.kind = *misbehaviour, .text = code.toUtf8()});
+    VantryUtil::setProxy({u"saved.example"_s, 9});
+    fixture.open();
+    fixture.type("SoapLogin", u" "_s + PracticeService::Options().login + u" "_s);
+    fixture.type("soapPassword", PracticeService::Options().password);
+    if (behaviour) {
+      proxy.setBehaviour({.kind = *behaviour});
+      fixture.type("TheProxyAddress", u"127.0.0.1"_s);
+      fixture.type("TheProxyPort", QString::number(proxy.port()) + u"x"_s);
+    }
+    const BoxAnswer ok(QMessageBox::Ok);
+    fixture.press("CheckAndConnectButton");
+    QCOMPARE(fixture.line(), klTestRunning());
+    const quint16 peer = behaviour ? proxy.port() : service.port();
+    QTRY_COMPARE(fixture.line(), line.replace(u"$1"_s, (behaviour ? u"127.0.0.1:%1"_s : u"localhost:%1"_s).arg(peer)));
+    QCOMPARE(ok.text(), VantryUtil::errToString(code));
+    for (const PracticeRequest& request : service.requests())
+      QCOMPARE(request.method + ' ' + request.login.toUtf8(), "Get_API_URL practice");
+    QVERIFY(VantryUtil::proxy().port == 9 && VantryUtil::AccountURL().isEmpty());
+    QVERIFY(!VantryUtil::prefs->HasKey(u"SoapLogin"_s));
+  }
+
+  void whoGaveNoAnswerIsNamed() {
+    using Phase = HttpFailure::Phase;
+    const struct {
+      Phase phase;
+      bool atProxy;
+      QString line;
+    } rows[] = {{Phase::Name, false, klTestNameUnknown()},   {Phase::Name, true, klTestProxyNameUnknown()},
+                {Phase::Connect, false, klTestNotReached()}, {Phase::Connect, true, klTestProxyNotReached()},
+                {Phase::TimedOut, false, klTestTimedOut()},  {Phase::TimedOut, true, klTestProxyTimedOut()}};
+    ConnectionAnswer answer;
+    for (const auto& row : rows) {
+      answer.failure = {row.phase, 0, u"why"_s, u"host:7"_s, row.atProxy};
+      QCOMPARE(connectionLine(answer, {}).text, QString(row.line).replace(u"$1"_s, u"host:7"_s));
+    }
+    answer.kind = ConnectionAnswer::Kind::Succeeded;
+    QCOMPARE(connectionLine(answer, proxyOfFields(u" host "_s, u"70000"_s)).text, klTestSucceededNoPort());
+  }
+
+  void aServiceThatNeverAnswersLeavesTheWindowAlive() {
+    AdminFixture fixture;
+    PracticeService service;
+    QTRY_VERIFY_WITH_TIMEOUT(fixture.startAtDefaultPort(service), 60'000);
+    service.misbehave({.kind = Mis::NoReply, .times = 0});
+    fixture.storeLogin();
+    fixture.open();  // tests by itself
+    const LoopWatch watch;
+    QTRY_COMPARE(service.requests().size(), 1);
+    QCOMPARE(fixture.line(), klTestRunning());
+    fixture.type("soapPassword", u"typed over"_s);
+    QVERIFY2(fixture.line().isEmpty(), "a test of other values says nothing of these");
+    fixture.press("CheckAndConnectButton");
+    QTRY_COMPARE(service.requests().size(), 2);
+    QVERIFY2(watch.longestMs() < 50, qPrintable(QString::number(watch.longestMs())));
+    QElapsedTimer timer;
+    timer.start();
+    QTest::keyClick(fixture.control("SoapLogin"), Qt::Key_Escape);
+    QVERIFY(!fixture.window().isVisible() && timer.elapsed() < 100);
+  }
+};
+
+VANTRY_TEST(tst_ConnectionTest);
+#include "tst_ConnectionTest.moc"

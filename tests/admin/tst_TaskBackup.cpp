@@ -1,0 +1,123 @@
+// Backup and restore of the task files, by the window's buttons, on real folders.
+
+#include <QDir>
+
+#include "AdminFixture.h"
+#include "support/HangingShare.h"
+#include "text/VTULocalization.h"
+
+using namespace Qt::Literals::StringLiterals;
+using namespace VTULocalization;
+
+class tst_TaskBackup : public QObject {
+  Q_OBJECT
+
+  static QString taskPath(const QString& name) { return UploaderTask::TaskDirectory().Child(name).NativePath(); }
+  static void write(const QString& path, const QByteArray& content) {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) qFatal("can't write");
+  }
+  static QString names(const QString& folder) { return QDir(folder).entryList(QDir::Files, QDir::Name).join(u'|'); }
+  static QByteArray task(const QString& name) { return TemporaryHome::readFile(taskPath(name)); }
+  /// Presses a button, chooses that folder and waits for the end.
+  static void copy(AdminFixture& fixture, const char* button, const QString& folder, const QString& line) {
+    const Choice choice(folder);
+    fixture.press(button);
+    QTRY_VERIFY(choice.made());
+    QTRY_VERIFY(fixture.enabled(button) && fixture.line("BackupLine") == line);
+    const bool save = qstrcmp(button, "saveConfigurationButton") == 0;
+    QCOMPARE(choice.title + u'|' + choice.action, u"Backup Directory|"_s + (save ? u"Save"_s : u"Load"_s));
+    QCOMPARE(choice.prompt, save ? klBackupDescription() : klLoadConfigurationDescription());
+  }
+
+ private slots:
+  void withoutTasksNothingIsOffered() {
+    AdminFixture fixture;
+    write(taskPath(u"VNT"_s), "x");
+    fixture.open();
+    const BoxAnswer ok(QMessageBox::Ok);
+    fixture.press("saveConfigurationButton");
+    QTRY_COMPARE(ok.text(), u"There are no tasks avaible to backup"_s);
+    QVERIFY(!fixture.window().findChild<QFileDialog*>());
+  }
+
+  void aBackupNeverOverwritesAndARestoreMerges() {
+    AdminFixture fixture;
+    const QString backup = fixture.home.makeFolder(u"backup"_s);
+    write(taskPath(u"press.vnt"_s), "press");
+    write(taskPath(u"Other.VNT"_s), "other");
+    write(taskPath(u"gone.del"_s), "gone");
+    fixture.open();
+    copy(fixture, "saveConfigurationButton", {}, {});
+    QCOMPARE(names(backup), QString());
+    for (int time = 0; time < 2; ++time) copy(fixture, "saveConfigurationButton", backup, klBackupDone());
+    QCOMPARE(names(backup), u"1 Other.VNT|1 press.vnt|Other.VNT|press.vnt"_s);
+    QVERIFY(!fixture.window().outcome().tasksRestored);
+
+    write(taskPath(u"press.vnt"_s), "changed");
+    write(taskPath(u"new.vnt"_s), "new");
+    copy(fixture, "LoadConfigurationButton", backup, klRestoreDone());
+    QCOMPARE(names(UploaderTask::TaskDirectory().NativePath()),
+             u"1 Other.VNT|1 press.vnt|Other.VNT|gone.del|new.vnt|press.vnt"_s);
+    QCOMPARE(task(u"press.vnt"_s), "press");
+    QVERIFY(fixture.window().outcome().tasksRestored);
+  }
+
+  void copiesThatFailAreNamedInOneMessage() {
+    AdminFixture fixture;
+    const QString backup = fixture.home.makeFolder(u"backup"_s);
+    write(backup + u"/huge.vnt"_s, QByteArray(17 << 20, 'x'));
+    write(backup + u"/z.vnt"_s, "z");
+    QVERIFY(QFile::link(u"/nowhere"_s, backup + u"/lost.vnt"_s));
+    write(taskPath(u"huge.vnt"_s), "old");
+    fixture.open();
+    const BoxAnswer told(QMessageBox::Ok);
+    copy(fixture, "LoadConfigurationButton", backup, klRestoreDone());
+    QTRY_VERIFY2(told.text().startsWith(klRestoreFailed()), qPrintable(told.text()));
+    QVERIFY(told.text().contains(u"\nhuge.vnt: "_s) && told.text().contains(u"\nlost.vnt: "_s));
+    QCOMPARE(task(u"huge.vnt"_s) + task(u"z.vnt"_s), "oldz");
+
+    const QString other = fixture.home.makeFolder(u"other"_s);
+    QVERIFY(QFile::link(u"/nowhere"_s, other + u"/huge.vnt"_s));
+    for (const QString& folder : {u"/proc/sys"_s, other}) {
+      const BoxAnswer second(QMessageBox::Ok);
+      copy(fixture, "saveConfigurationButton", folder, folder == other ? klBackupDone() : QString());
+      QTRY_VERIFY2(second.text().startsWith(klBackupFailed()), qPrintable(second.text()));
+      QVERIFY(second.text().contains(u"\nhuge.vnt: "_s) && second.text().contains(u"\nz.vnt: "_s) != (folder == other));
+    }
+  }
+
+  void aShareThatHangsHoldsNothingUp_data() {
+    QTest::addColumn<bool>("save");
+    QTest::newRow("a backup into it") << true;
+    QTest::newRow("a restore from it") << false;
+  }
+  void aShareThatHangsHoldsNothingUp() {
+    QFETCH(bool, save);
+    AdminFixture fixture;
+    const QString share = fixture.home.makeFolder(u"hanging-share"_s);
+    write(share + u"/a.vnt"_s, "of the share");
+    for (const char* const name : {"a.vnt", "b.vnt"}) write(taskPath(QLatin1String(name)), "here");
+    fixture.open();
+    const Choice choice(share);
+    {
+      const HangingShare hanging;
+      const LoopWatch watch;
+      fixture.press(save ? "saveConfigurationButton" : "LoadConfigurationButton");
+      QTRY_COMPARE(fixture.line("BackupLine"), klBackupSlow());
+      QVERIFY(HangingShare::waiting() > 0 && !fixture.enabled("saveConfigurationButton"));
+      QVERIFY2(watch.longestMs() < 500, qPrintable(QString::number(watch.longestMs())));  // the chooser's opening
+      const BoxAnswer told(QMessageBox::Ok);
+      fixture.press("CancelAdminButton");
+      QVERIFY(!fixture.window().isVisible());
+      QCOMPARE(told.text(), save ? klCopyingStopped() + u"\n\na.vnt\nb.vnt"_s : QString());
+      QCOMPARE(fixture.window().outcome().tasksRestored, !save);
+    }
+    QVERIFY(BackgroundCall::waitForAll(5000));
+    QVERIFY(!QFile::exists(share + u"/b.vnt"_s));
+    QCOMPARE(task(u"a.vnt"_s), "here");
+  }
+};
+
+VANTRY_TEST(tst_TaskBackup);
+#include "tst_TaskBackup.moc"

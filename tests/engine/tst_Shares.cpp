@@ -1,0 +1,221 @@
+// Shares that hang or are not mounted: what they hold up, what is written, and how it heals.
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+#include <QTest>
+#include <thread>
+
+#include "engine/EngineActivity.h"
+#include "engine/FolderWork.h"
+#include "engine/MountMemory.h"
+#include "engine/UploadThread.h"
+#include "platform/Problems.h"
+#include "storage/Preferences.h"
+#include "support/EngineBench.h"
+#include "support/HangingShare.h"
+#include "support/TestRunner.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+class tst_Shares : public QObject {
+  Q_OBJECT
+
+  static bool runUntil(const std::function<bool()>& done) {
+    const auto step = [&] {
+      if (!done()) UploadThread::Start();
+      return done();
+    };
+    return QTest::qWaitFor(step, 20'000);
+  }
+  /// A listed task with one file, whose input folder is `folder`.
+  static TaskPointer listed(const EngineBench& bench, const QString& name, const QString& folder) {
+    const TaskPointer task = bench.makeTask(name);
+    task->inputFolderPath = bench.home.makeFolder(folder);
+    bench.drop(name + u"1.txt"_s, "x", folder);
+    UploaderTask::addTask(task);
+    return task;
+  }
+
+ private slots:
+  void init() { FolderWork::setLimit(1500); }
+  void cleanup() { FolderWork::setLimit(20'000); }
+
+  void aShareThatHangsHoldsUpItsOwnTasksAlone() {
+    EngineBench bench;
+    const TaskPointer a = listed(bench, u"a"_s, u"hanging-share/a"_s);
+    const TaskPointer b = listed(bench, u"b"_s, u"hanging-share/b"_s);
+    const TaskPointer c = listed(bench, u"c"_s, u"local"_s);
+    FolderWork::setLimit(4000);
+    {
+      const HangingShare hangs;
+      QElapsedTimer lost;
+      lost.start();
+      QVERIFY(runUntil([&] { return bench.received() == QStringList{u"c1.txt"_s}; }));
+      QVERIFY2(lost.elapsed() < 7000, "both were waited for in full");
+      QTRY_VERIFY(!UploadThread::ProcessingNow());
+      QCOMPARE(a->Status.load(), UploaderTask::Fault);
+      QCOMPARE(b->Status.load(), UploaderTask::Fault);
+      // From now on nobody waits for them, and no more threads are spent on them.
+      QElapsedTimer time;
+      time.start();
+      UploadThread::Start();
+      QTRY_VERIFY(!UploadThread::ProcessingNow());
+      QVERIFY(time.elapsed() < 1000);
+      QCOMPARE(HangingShare::waiting(), 2);
+      QCOMPARE(Problems::present().size(), 2);
+    }
+    QVERIFY(runUntil([&] { return bench.received().size() == 3; }));
+    QVERIFY(bench.received().contains(u"a1.txt"_s) && bench.received().contains(u"b1.txt"_s));
+    QCOMPARE(a->Status.load(), UploaderTask::Processing);
+  }
+
+  void aShareThatHangsInMidBatchIsLeftToItself() {
+    EngineBench bench;
+    const TaskPointer a = listed(bench, u"a"_s, u"hanging-share/a"_s);
+    bench.drop(u"a2.txt"_s, "x", u"hanging-share/a"_s);
+    bench.service.hold();
+    UploadThread::Start();
+    QVERIFY(bench.service.waitForHeld(1, 10'000));
+    listed(bench, u"c"_s, u"local"_s);
+    {
+      const HangingShare hangs;
+      bench.service.release();
+      QVERIFY(runUntil([&] { return bench.received().contains(u"c1.txt"_s); }));
+      QCOMPARE(a->Status.load(), UploaderTask::Fault);
+      QVERIFY(a->Busy);
+      QTRY_VERIFY(!UploadThread::ProcessingNow());
+    }
+    QTRY_VERIFY(!a->Busy);
+    QVERIFY(!engineActivity().sending && !bench.received().contains(u"a2.txt"_s));
+    QVERIFY(runUntil([&] { return bench.received().contains(u"a2.txt"_s); }));
+    QTRY_VERIFY(!UploadThread::ProcessingNow());
+    QCOMPARE(bench.received().count(u"a1.txt"_s), 1);
+    QCOMPARE(bench.files(u"out"_s), (QStringList{u"a1.txt"_s, u"a2.txt"_s, u"c1.txt"_s}));
+  }
+
+  void aFolderThatGoesInMidBatchCostsNoFileAndHoldsUpNobody_data() {
+    QTest::addColumn<QString>("folder");
+    QTest::newRow("input") << u"in"_s;
+    QTest::newRow("output") << u"out-a"_s;
+  }
+  void aFolderThatGoesInMidBatchCostsNoFileAndHoldsUpNobody() {
+    QFETCH(QString, folder);
+    EngineBench bench;
+    const TaskPointer a = listed(bench, u"a"_s, u"in"_s);
+    a->outputFolderPath = bench.home.makeFolder(u"out-a"_s);
+    listed(bench, u"b"_s, u"other"_s);
+    bench.drop(u"a2.txt"_s);
+    bench.service.hold();
+    UploadThread::Start();
+    QVERIFY(bench.service.waitForHeld(1, 10'000));
+    QVERIFY(QDir().rename(bench.home.path(folder), bench.home.path(u"away"_s)));
+    bench.service.release();
+    QTRY_VERIFY(!UploadThread::ProcessingNow());
+    QCOMPARE(a->Status.load(), UploaderTask::Fault);
+    QCOMPARE(bench.received(), (QStringList{u"a1.txt"_s, u"b1.txt"_s}));
+    QVERIFY(QDir().rename(bench.home.path(u"away"_s), bench.home.path(folder)));
+    QVERIFY(runUntil([&] { return bench.received().contains(u"a2.txt"_s); }));
+  }
+
+  void aBareFolderInTheShareSPlaceIsNeitherBelievedNorWritten() {
+    EngineBench bench;
+    const QTemporaryDir share(u"/dev/shm/share-XXXXXX"_s);  // another file system than the home's
+    const QString link = bench.home.path(u"link"_s), bare = bench.home.makeFolder(u"bare"_s);
+    const auto mount = [&](const QString& target) { return QFile::remove(link), QFile::link(target, link); };
+    QVERIFY(mount(share.path()));
+    // From a clock ahead: past the limit, so the ledger alone knows that it was sent.
+    const QString path = bench.home.writeFile(u"link/a.txt"_s, "x", -3600);
+    const TaskPointer task = bench.makeTask();
+    task->inputFolderPath = link;
+    task->outputFolderPath.clear();
+    task->DeleteAfterSave = true;
+    EngineBench::process(*task);
+    bench.clock.advance(10);
+    bench.service.whenBodyReaches(1, [&] { QVERIFY(mount(bare)); });
+    EngineBench::process(*task);
+    QCOMPARE(bench.received().size(), 1);
+    QVERIFY2(bench.notes().value(0).contains(u"not deleted"_s, Qt::CaseInsensitive),
+             qPrintable(bench.notes().value(0)));
+    QVERIFY(mount(share.path()));
+    for (int pass = 0; pass < 2; ++pass) {
+      bench.clock.advance(10);
+      EngineBench::process(*task);
+    }
+    QCOMPARE(bench.received().size(), 1);
+    task->outputFolderPath = link;
+    task->updateStatus();
+    QVERIFY(mount(bare));
+    QVERIFY(!task->PrepareToUpload() && task->Status == UploaderTask::Fault && QDir(bare).isEmpty());
+  }
+
+  void aMountThatTakesLongHoldsUpItsOwnTaskAlone() {
+    EngineBench bench;
+    std::atomic<int> begun = 0;
+    std::atomic<bool> released = false;
+    UploaderTask::setMountOperation([&](const MountRequest&, int& error) {
+      ++begun;
+      while (!released) std::this_thread::yield();
+      error = MountError::TimedOut;
+      return QString();
+    });
+    for (const QString& name : {u"a"_s, u"b"_s}) {
+      const TaskPointer task = bench.makeTask(name);
+      task->inputFolderPath = bench.home.path(u"share/in"_s);
+      task->AutoMountInputFolder = true;
+      task->inputfolderURL = u"smb://server/share"_s;
+      UploaderTask::addTask(task);
+    }
+    listed(bench, u"c"_s, u"local"_s);
+    QVERIFY(runUntil([&] { return bench.received() == QStringList{u"c1.txt"_s}; }));
+    QTRY_VERIFY(!UploadThread::ProcessingNow());
+    released = true;
+    QTRY_VERIFY(UploaderTask::triedAutoMount());
+    QTRY_VERIFY(!UploaderTask::allTasks().first()->leftBehind);
+    UploadThread::Start();
+    QTRY_VERIFY(!UploadThread::ProcessingNow());
+    QCOMPARE(begun, 1);  // neither beside the first nor in the pause behind it
+    QCOMPARE(Problems::present().first().subject, u"smb://server/share"_s);
+    QCOMPARE(Problems::present().first().detail, u"the server does not answer"_s);
+  }
+
+  void aFolderTakenAsItIsStaysSoUntilItsShareIsThere() {
+    const QByteArray home = "1 0 8:1 / / rw - ext4 /dev/a rw\n2 1 8:2 / /home rw - ext4 /dev/b rw\n",
+                     share = "3 2 0:9 / /home/share rw - cifs //server/share rw\n",
+                     fstab = "//server/share /home/share cifs";
+    const MountTable bare(home, fstab), mounted(home + share, fstab);
+    QCOMPARE(toRemember(bare, "/home/share/in", "/"), QByteArray("/"));
+    QCOMPARE(toRemember(mounted, "/home/share/in", "/"), QByteArray("/home/share"));
+    QCOMPARE(toRemember(mounted, "/in", "/"), QByteArray("/"));
+    QCOMPARE(toRemember(mounted, "/in", "/home"), QByteArray());
+  }
+
+  void aBareMountPointIsNeitherReadNorWritten_data() {
+    QTest::addColumn<bool>("input");
+    QTest::newRow("input") << true;
+    QTest::newRow("output") << false;
+  }
+  void aBareMountPointIsNeitherReadNorWritten() {
+    QFETCH(bool, input);
+    EngineBench bench;
+    bench.drop(u"a.txt"_s);
+    const TaskPointer task = bench.makeTask();
+    const QString folder = input ? task->inputFolderPath : task->outputFolderPath;
+    // As an earlier look would have left it, had something been mounted there.
+    VantryUtil::prefs->setStringValue(u"mountpoint "_s + folder, folder);
+    bench.restart();
+    EngineBench::process(*task);
+    QCOMPARE(task->Status.load(), UploaderTask::Fault);
+    QVERIFY(bench.received().isEmpty());
+    QVERIFY(QDir(bench.home.path(u"out"_s)).isEmpty());
+    QCOMPARE(Problems::present().size(), 1);
+    QCOMPARE(Problems::present().first().detail, folder);
+    UploaderTask::takeAsItIs(folder);
+    EngineBench::process(*task);
+    QCOMPARE(bench.received(), QStringList{u"a.txt"_s});
+    QVERIFY(Problems::present().isEmpty());
+  }
+};
+
+VANTRY_TEST(tst_Shares);
+#include "tst_Shares.moc"

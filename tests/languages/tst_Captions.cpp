@@ -1,0 +1,132 @@
+// Whether each window's captions fit their controls in every language, at 100 %.
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFontInfo>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStyleOptionButton>
+#include <QStyleOptionComboBox>
+#include <QTest>
+
+#include "admin/AdminPasswordWindow.h"
+#include "admin/AdminWindow.h"
+#include "editor/EditTaskWindow.h"
+#include "monitor/SystemLogWindow.h"
+#include "monitor/VTUploaderMainWIndow.h"
+#include "platform/Languages.h"
+#include "storage/Preferences.h"
+#include "support/TemporaryHome.h"
+#include "support/TestRunner.h"
+#include "widgets/Mnemonics.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+struct Window {
+  const char* name;
+  std::unique_ptr<QWidget> (*make)();
+};
+
+static std::unique_ptr<QWidget> instrumentEditor() {
+  auto editor = std::make_unique<EditTaskWindow>(nullptr);
+  editor->findChild<QComboBox*>(u"Warden"_s)->setCurrentIndex(1);
+  return editor;
+}
+
+/// A new window is one more line here.
+static const Window windows[] = {
+    {"main window", [] { return std::unique_ptr<QWidget>(new VTUploaderMainWIndow(MainWindowCommands{})); }},
+    {"task editor", [] { return std::unique_ptr<QWidget>(new EditTaskWindow(nullptr)); }},
+    {"task editor of an instrument", instrumentEditor},
+    {"log viewer", [] { return std::unique_ptr<QWidget>(new SystemLogWindow); }},
+    {"admin window", [] { return std::unique_ptr<QWidget>(new AdminWindow(nullptr)); }},
+    {"admin password window", [] { return std::unique_ptr<QWidget>(new AdminPasswordWindow(nullptr)); }},
+};
+
+/// Shorten by themselves and tell the whole text in their tool tip.
+static const QStringList Eliding{u"BottomShadingRect"_s, u"Sample"_s};
+constexpr int SmallestPixels = 10;
+constexpr int ButtonFrame = 4;
+
+static bool fits(const QWidget& control, const QString& text, QSize room) {
+  const QStringList lines = text.split(u'\n');
+  for (const QString& line : lines)
+    if (control.fontMetrics().horizontalAdvance(line) > room.width()) return false;
+  return control.fontMetrics().height() * lines.size() <= room.height() &&
+         QFontInfo(control.font()).pixelSize() >= SmallestPixels;
+}
+
+static bool labelFits(const QLabel& label) {
+  if (label.wordWrap()) return label.heightForWidth(label.width()) <= label.height();
+  return fits(label, label.buddy() ? withoutMnemonic(label.text()) : label.text(), label.contentsRect().size());
+}
+
+static bool buttonFits(const QAbstractButton& button) {
+  int width = button.width() - 2 * ButtonFrame;
+  if (const auto* const box = qobject_cast<const QCheckBox*>(&button)) {
+    QStyleOptionButton option;
+    option.initFrom(box);
+    width = box->style()->subElementRect(QStyle::SE_CheckBoxContents, &option, box).width();
+  }
+  return fits(button, withoutMnemonic(button.text()), {width, button.height()});
+}
+
+static bool rowsFit(const QComboBox& list) {
+  QStyleOptionComboBox option;
+  option.initFrom(&list);
+  const QRect room = list.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &list);
+  for (int row = 0; row < list.count(); ++row)
+    if (!fits(list, list.itemText(row), room.size())) return false;
+  return true;
+}
+
+static bool headingsFit(const QHeaderView& header) {
+  const int margins = 2 * header.style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, &header);
+  for (int column = 0; column < header.count(); ++column) {
+    const QString text = header.model()->headerData(column, header.orientation()).toString();
+    if (!fits(header, text, {header.sectionSize(column) - margins, header.height()})) return false;
+  }
+  return true;
+}
+
+static bool captionFits(const QWidget& control) {
+  if (const auto* const label = qobject_cast<const QLabel*>(&control)) return labelFits(*label);
+  if (const auto* const button = qobject_cast<const QAbstractButton*>(&control)) return buttonFits(*button);
+  if (const auto* const list = qobject_cast<const QComboBox*>(&control)) return rowsFit(*list);
+  if (const auto* const header = qobject_cast<const QHeaderView*>(&control)) return headingsFit(*header);
+  if (const auto* const field = qobject_cast<const QLineEdit*>(&control))
+    return fits(*field, field->placeholderText(), field->size());
+  return true;
+}
+
+class tst_Captions : public QObject {
+  Q_OBJECT
+ private slots:
+  void cleanup() { Languages::install({}); }
+
+  void captionsFit_data() {
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<int>("window");
+    for (const QString& language : QStringList(QString()) + Languages::shipped())
+      for (int i = 0; i < int(std::size(windows)); ++i)
+        QTest::addRow("%s in \"%s\"", windows[i].name, qPrintable(language)) << language << i;
+  }
+  void captionsFit() {
+    QFETCH(QString, language);
+    QFETCH(int, window);
+    const TemporaryHome home;
+    Languages::install(language);
+    const std::unique_ptr<QWidget> shown = windows[window].make();
+    (void)shown->grab();  // lays it out
+    QStringList cut;
+    for (const QWidget* const control : shown->findChildren<QWidget*>())
+      if (control->isVisibleTo(shown.get()) && !Eliding.contains(control->objectName()) && !captionFits(*control))
+        cut << u"%1 (%2 pixels)"_s.arg(control->objectName()).arg(QFontInfo(control->font()).pixelSize());
+    QVERIFY2(cut.isEmpty(), qPrintable(cut.join(u", "_s)));
+  }
+};
+
+VANTRY_TEST(tst_Captions);
+#include "tst_Captions.moc"

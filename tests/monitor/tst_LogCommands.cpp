@@ -1,0 +1,254 @@
+// What the log viewer does beyond showing rows: finding, exporting, copying, sending again, and its divider.
+
+#include <QClipboard>
+#include <QDir>
+#include <QHeaderView>
+#include <QMenu>
+
+#include "LogFixture.h"
+#include "support/EngineBench.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+class tst_LogCommands : public QObject {
+  Q_OBJECT
+
+  /// Presses Export and chooses that file; an empty path cancels.
+  static void exportTo(LogFixture& fixture, const QString& path) {
+    QString proposed;
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, [&] {
+      auto* const dialog = fixture.window().findChild<QFileDialog*>();
+      if (!dialog || !dialog->isVisible()) return;
+      timer.stop();
+      proposed = dialog->selectedFiles().value(0);
+      if (path.isEmpty()) return dialog->reject();
+      dialog->selectFile(path);
+      dialog->setOption(QFileDialog::DontConfirmOverwrite);
+      QMetaObject::invokeMethod(dialog, "accept");
+    });
+    timer.start(5);
+    fixture.press("ExportToText");
+    QTRY_VERIFY2(proposed.endsWith(u"/log.txt"_s), qPrintable(proposed));
+  }
+
+ private slots:
+  void aFailureIsToldByItsNotes() {
+    for (const char* const notes :
+         {"Uploaded to Print Warden - Saved", "Uploaded to Instrument - Deleted Locally", "n/a", ""})
+      QVERIFY2(!isFailure(notes), notes);
+    for (const char* const notes :
+         {"Failed to upload to Print - moved to error folder. Error Reported: E002 - Deleted Locally",
+          "Uploaded to Print Warden - Saved Copy not saved: no space left",
+          "Uploaded to Print Input file not deleted: not permitted", "File not accessible",
+          "Processing stopped: bad_alloc"})
+      QVERIFY2(isFailure(notes), notes);
+  }
+
+  void findingNarrowsTheView_data() {
+    addColumns<QString, bool, QString>("text", "failuresOnly", "shown");
+    QTest::newRow("in any case") << u" ALPHA "_s << false << u"alpha.txt|Alphaville"_s;
+    QTest::newRow("beyond ASCII") << u"MASS É"_s << false << u"mass é"_s;
+    QTest::newRow("in the notes") << u"e008"_s << false << u"Alphaville"_s;
+    QTest::newRow("failures") << u""_s << true << u"Alphaville|gone"_s;
+    QTest::newRow("both") << u"gone"_s << true << u"gone"_s;
+    QTest::newRow("the text begins anew inside itself") << u"aab"_s << false << u"aaab"_s;
+    QTest::newRow("nothing") << u"alphaz"_s << false << u""_s;
+  }
+  void findingNarrowsTheView() {
+    LogFixture fixture;
+    QFETCH(QString, text);
+    QFETCH(bool, failuresOnly);
+    QFETCH(QString, shown);
+    LogFixture::write(u"alpha.txt"_s);
+    LogFixture::write(u"Alphaville"_s, u"Failed to upload to Print - moved to error folder. Error Reported: E008"_s);
+    for (const QString& name : {u"mass é"_s, u"aaab"_s}) LogFixture::write(name);
+    fixture.open();
+    auto* const model = fixture.list()->model();
+    QTRY_COMPARE(fixture.names(), u"alpha.txt|Alphaville|mass é|aaab"_s);
+    QCOMPARE(model->index(1, 0).data(Qt::AccessibleTextRole).toString(), u"Failed: Alphaville"_s);
+    const auto picture = [&](int row) {
+      return model->index(row, 0).data(Qt::DecorationRole).value<QIcon>().pixmap(16).toImage();
+    };
+    QVERIFY(picture(0).size() == picture(1).size() && picture(0) != picture(1) && picture(0) == picture(2));
+    fixture.list()->setListIndex(1);
+    fixture.type("FindField", text);
+    fixture.tick("FailuresOnlyCheckBox", failuresOnly);
+    LogFixture::write(u"gone"_s, u"File not accessible"_s);
+    fixture.takeQueue(1);
+    QTRY_COMPARE(static_cast<LogModel*>(model)->all().size(), 5);
+    QTRY_COMPARE(fixture.names(), shown);
+    QCOMPARE(fixture.list()->ListIndex(), shown.split(u'|').indexOf(u"Alphaville"_s));
+    QCOMPARE(fixture.note(), shown.isEmpty() ? u"No entry matches."_s : QString());
+    fixture.press("REfreshLogButton");
+    QTRY_COMPARE(fixture.names(), shown);
+    fixture.type("FindField", {});
+    fixture.tick("FailuresOnlyCheckBox", false);
+    QTRY_COMPARE(fixture.rows(), 5);
+  }
+
+  void anExportWritesWhatTheListShows() {
+    LogFixture fixture;
+    LogFixture::write(u"a\tb"_s, u"two\nlines"_s);
+    LogFixture::write(u"left out"_s);
+    LogFixture::write(u"é"_s, u"File not accessible"_s);
+    fixture.open();
+    fixture.press("FailuresOnlyCheckBox");
+    QTRY_COMPARE(fixture.names(), u"a b|é"_s);
+    const QString path = fixture.home.writeFile(u"log.txt"_s, "old");
+    exportTo(fixture, {});
+    QCOMPARE(TemporaryHome::readFile(path), "old");
+    exportTo(fixture, path);
+    const QStringList times = fixture.table("EventTime");
+    const QString heading = u"OriginalName\tNewName\tInputFolder\tOutputFolder\tTrack\tEventTime\tNotes\n"_s;
+    const QString wanted =
+        u"a\tb\tn/a\tn/a\tn/a\tn/a\t%1\ttwo\nlines\né\tn/a\tn/a\tn/a\tn/a\t%2\tFile not "
+        "accessible\n"_s.arg(times[0], times[2]);
+    QTRY_COMPARE(QString::fromUtf8(TemporaryHome::readFile(path)), heading + wanted);
+    fixture.list()->selectAll();
+    QTest::keyClick(fixture.list(), Qt::Key_C, Qt::ControlModifier);
+    QTRY_COMPARE(QGuiApplication::clipboard()->text(), wanted);
+  }
+
+  void anExportThatFailsOrIsCancelledLeavesTheOldFile_data() {
+    QTest::addColumn<QString>("fault");
+    for (const char* const fault : {"gone", "cancelled", "closed"}) QTest::newRow(fault) << QString::fromLatin1(fault);
+  }
+  void anExportThatFailsOrIsCancelledLeavesTheOldFile() {
+    LogFixture fixture;
+    QFETCH(QString, fault);
+    fixture.fill(300'000);
+    fixture.open();
+    QTRY_COMPARE(fixture.rows(), 300'000);
+    const QString path = fixture.home.writeFile(u"out/log.txt"_s, "old");
+    if (fault == u"gone"_s) fixture.run("delete from log where _rowid > 290000");
+    bool begun = false;
+    connect(fixture.window().findChild<LogExport*>(), &LogExport::changed, this, [&] {
+      if (std::exchange(begun, true)) return;
+      QVERIFY(!fixture.enabled("DeleteLogs"));
+      if (fault == u"cancelled"_s) fixture.control("ExportProgress")->findChild<QPushButton*>()->click();
+      if (fault == u"closed"_s) QVERIFY(fixture.window().close());
+    });
+    {
+      const BoxAnswer box(fault == u"closed"_s ? QMessageBox::Yes : QMessageBox::Ok);
+      exportTo(fixture, path);
+      QTRY_VERIFY(begun);
+      QTRY_COMPARE(box.text().isEmpty(), fault == u"cancelled"_s);
+      QCOMPARE(box.text().contains(u"no longer in the log"_s), fault == u"gone"_s);
+    }
+    QTRY_VERIFY(!SystemLogWindow::openOne() || fixture.enabled("DeleteLogs"));
+    QVERIFY(BackgroundCall::waitForAll(10'000));
+    QCOMPARE(TemporaryHome::readFile(path), "old");
+    QCOMPARE(QDir(fixture.home.path(u"out"_s)).entryList(QDir::Files | QDir::Hidden), QStringList{u"log.txt"_s});
+  }
+
+  void sendingAgainMakesAFileDueForTheEngine() {
+    EngineBench bench;
+    const TaskPointer task = bench.makeTask();
+    UploaderTask::addTask(task);
+    for (const QString& name : {u"a.txt"_s, u"b.txt"_s, u"gone.txt"_s}) bench.drop(name);
+    bench.process(*task);
+    QVERIFY(QFile::remove(bench.home.path(u"in/gone.txt"_s)));
+    bench.clock.advance(60);
+    bench.process(*task);
+    QCOMPARE(bench.received().size(), 3);
+
+    SystemLogWindow::bringUp();
+    SystemLogWindow& window = *SystemLogWindow::openOne();
+    auto* const list = controlOf<LogListView>(window, "TheData");
+    QTRY_COMPARE(list->model()->index(2, 0).data().toString(), u"gone.txt"_s);
+    const auto choose = [&](QMessageBox::StandardButton button) {
+      emit list->customContextMenuRequested({5, 5});
+      const std::unique_ptr<QMenu> menu(controlOf<QMenu>(window, "LogRowMenu"));
+      auto* const action = menu->findChild<QAction*>(u"SendAgainAction"_s);
+      [&] { QTRY_VERIFY(action->isEnabled()); }();
+      const BoxAnswer answer(button);
+      action->trigger();
+      return answer.text();
+    };
+    list->selectAll();
+    QVERIFY(choose(QMessageBox::No).contains(u"\n\na.txt\nb.txt\n\n"_s));
+    list->setListIndex(1);
+    QVERIFY(choose(QMessageBox::Yes).contains(u"\n\nb.txt\n\n"_s));
+    const FolderItem b = bench.home.item(u"in/b.txt"_s);
+    QTRY_COMPARE(b.ModificationDate().nanoseconds(), bench.clock.now().nanoseconds());
+    for (int pass = 0; pass < 2; ++pass) {
+      bench.clock.advance(3);
+      bench.process(*task);
+      QCOMPARE(bench.received(), (QStringList{u"a.txt"_s, u"b.txt"_s, u"gone.txt"_s, u"b.txt"_s}));
+    }
+    QCOMPARE(bench.log().size(), 4);
+    for (const EngineBench::Row& row : bench.log()) QVERIFY(!isFailure(row[u"Notes"_s].toUtf8()));
+
+    list->setListIndex(2);
+    emit list->customContextMenuRequested({5, 5});
+    QVERIFY(BackgroundCall::waitForAll(10'000));
+    QCoreApplication::processEvents();
+    QVERIFY(!controlOf<QMenu>(window, "LogRowMenu")->actions().first()->isEnabled());
+    task->disabled = true;
+    const auto notTaken = filesToSendAgain({{task->inputFolderPath, u"a.txt"_s}}, [] { return false; });
+    QVERIFY(sendAgainQuestion(notTaken).contains(u"No task that is switched on"_s));
+    LogFixture::close();
+  }
+
+  void theDividerKeepsBothListsUsableAndIsRemembered() {
+    const struct {
+      QSize window;
+      int wanted;
+      QList<int> edges;  // top and height of the upper list, the divider and the lower list
+    } rows[] = {{{1000, 416}, 158, {20, 174, 193, 12, 206, 158}},
+                {{1000, 416}, 4000, {20, 35, 54, 12, 67, 297}},
+                {{1000, 416}, -70, {20, 297, 316, 12, 329, 35}},
+                {{940, 200}, 158, {20, 35, 54, 12, 67, 81}}};
+    for (const auto& row : rows) {
+      QList<int> edges;
+      const DividedPlaces places = dividedPlaces(row.window, row.wanted);
+      for (const QRect& place : {places.before, places.divider, places.after}) edges << place.y() << place.height();
+      QCOMPARE(edges, row.edges);
+      QCOMPARE(places.before.width(), row.window.width() - 40);
+    }
+    LogFixture fixture;
+    fixture.fill(1);
+    fixture.open();
+    QTRY_COMPARE(fixture.list()->model()->columnCount(), 7);
+    auto* const divider = fixture.control("WindowSplitter1");
+    QTest::mousePress(divider, Qt::LeftButton, {}, {100, 6});
+    QTest::mouseMove(divider, {100, -44});
+    QCOMPARE(fixture.control("LogDetails")->height(), 208);
+    QTest::mouseRelease(divider, Qt::LeftButton);
+    QTest::keyClick(divider, Qt::Key_Down);
+    QCOMPARE(fixture.list()->height(), 174 - 50 + 12);
+    fixture.list()->setColumnWidth(2, 222);
+    fixture.close();
+    fixture.open();
+    QTRY_COMPARE(fixture.list()->columnWidth(2), 222);
+    QCOMPARE(fixture.list()->height(), 136);
+    fixture.list()->setColumnWidths(u"1,2,x"_s);
+    QCOMPARE(fixture.list()->columnWidth(2), 130);
+  }
+
+  void theKeyboardReachesEverything() {
+    LogFixture fixture;
+    fixture.fill(2);
+    SystemLogWindow& window = fixture.open();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QTRY_COMPARE(fixture.rows(), 2);
+    QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClicks(QApplication::focusWidget(), u"row 2"_s);
+    QTRY_COMPARE(fixture.names(), u"row 2"_s);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    QCOMPARE(fixture.rows(), 2);
+    QCOMPARE(QApplication::focusWidget(), fixture.list());
+    QTest::keyClick(fixture.list(), Qt::Key_Down);
+    QTRY_VERIFY(fixture.details().size() > 1);
+    QSet<QWidget*> reached;
+    for (int i = 0; i < 10; ++i, QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab))
+      reached << QApplication::focusWidget();
+    QCOMPARE(reached.size(), 10);
+    for (const QWidget* const control : reached)
+      QVERIFY2(!control->accessibleName().isEmpty(), qPrintable(control->objectName()));
+  }
+};
+
+VANTRY_TEST(tst_LogCommands);
+#include "tst_LogCommands.moc"

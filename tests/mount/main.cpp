@@ -1,0 +1,20 @@
+#include <QCoreApplication>
+#include <cstdio>
+
+#include "PrivateSession.h"
+#include "support/TestRunner.h"
+
+int main(int argc, char** argv) {
+  QCoreApplication application(argc, argv);
+  const QString missing = PrivateSession::missing();
+  if (!missing.isEmpty()) {
+    std::printf(
+        "********************************************************************\n"
+        "NOT TESTED: mounting real shares. %s.\n"
+        "********************************************************************\n",
+        qPrintable(missing));
+    return 77;  // as CMakeLists.txt tells ctest
+  }
+  const PrivateSession session;
+  return TestRunner::runAllTests(argc, argv);
+}

@@ -1,0 +1,15 @@
+#pragma once
+// A share that accepts calls and never answers: while an object lives, stat and open of paths below a folder named
+// "hanging-share" wait. Replaces the C library's functions for this program, which has to list HangingShare.cpp among
+// its own sources; any thread.
+
+class HangingShare {
+ public:
+  HangingShare();
+  /// Lets all calls go on and waits until none is left.
+  ~HangingShare();
+  HangingShare(const HangingShare&) = delete;
+  HangingShare& operator=(const HangingShare&) = delete;
+  /// Calls that hang at this moment.
+  [[nodiscard]] static int waiting();
+};
