@@ -15,7 +15,7 @@ class AdminFixture : public WindowControls {
   ~AdminFixture() override {
     m_window.reset();
     VantryUtil::stopServiceCalls();
-    if (!BackgroundCall::waitForAll(10'000)) qFatal("a call did not end");
+    if (!BackgroundCall::waitForAll(60'000)) qFatal("a call did not end");
     VantryUtil::allowServiceCalls();
     VantryUtil::setProxy({});
     VantryUtil::setExtraCaFile({});

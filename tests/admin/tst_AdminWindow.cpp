@@ -1,6 +1,8 @@
-// The admin window's form, offscreen, by object name: its controls, keys, states, and what it stores.
+// The admin window's form, offscreen, by object name: its controls, keys, states, and what it stores; and the prompt
+// before it.
 
 #include "AdminFixture.h"
+#include "admin/AdminPasswordWindow.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -17,49 +19,6 @@ class tst_AdminWindow : public QObject {
   }
 
  private slots:
-  void everyControlStandsInItsPlace() {
-    const struct {
-      const char* name;
-      QRect place;
-      const char* caption;
-    } rows[] = {{"SoapConnectionLabel", {20, 20, 196, 20}, "SOAP Connection"},
-                {"Label2", {20, 52, 166, 20}, "SOAP Login"},
-                {"SoapLogin", {20, 78, 166, 22}, ""},
-                {"Label3", {20, 112, 166, 20}, "SOAP Password"},
-                {"soapPassword", {20, 137, 166, 22}, ""},
-                {"SoapConnectionLabel1", {20, 178, 196, 20}, "Proxy"},
-                {"Label8", {20, 210, 166, 20}, "Proxy Address"},
-                {"Label9", {198, 210, 166, 20}, "Proxy Port"},
-                {"TheProxyAddress", {20, 242, 166, 22}, ""},
-                {"TheProxyPort", {198, 242, 95, 22}, ""},
-                {"CheckAndConnectButton", {217, 290, 205, 20}, "Check and Connect"},
-                {"Separator1", {20, 322, 412, 4}, ""},
-                {"Label7", {20, 338, 185, 20}, "Admin Lock"},
-                {"backupLabel", {217, 338, 196, 20}, "Backup"},
-                {"LockTaskListButton", {20, 370, 166, 20}, "Lock task list"},
-                {"saveConfigurationButton", {217, 370, 205, 20}, "Save Configuration"},
-                {"adminPasswordLabel", {20, 395, 166, 20}, "Enter admin password"},
-                {"LoadConfigurationButton", {217, 402, 205, 20}, "Load Configuration"},
-                {"AdminPassword", {20, 421, 166, 22}, ""},
-                {"AdminPasswordVerificationLabel", {20, 455, 166, 20}, "Re-enter admin password"},
-                {"AdminPasswordRepeat", {20, 480, 166, 22}, ""},
-                {"CancelAdminButton", {250, 514, 80, 20}, "Cancel"},
-                {"OKAdminButton", {342, 514, 80, 20}, "OK"}};
-    for (const int pixels : {12, 22}) {
-      const FontSize font(pixels);
-      AdminFixture fixture;
-      fixture.open();
-      for (const auto& row : rows) {
-        const QWidget& control = *fixture.control(row.name);
-        QVERIFY2(control.geometry() == row.place && captionOf(control) == QLatin1String(row.caption), row.name);
-        const QFontMetrics metrics = control.fontMetrics();
-        const int beside = qobject_cast<const QCheckBox*>(&control) ? 20 : 0;
-        QVERIFY2(metrics.horizontalAdvance(captionOf(control)) + beside <= control.width(), row.name);
-        QVERIFY2(metrics.height() <= qMax(20, control.height()), row.name);
-      }
-    }
-  }
-
   void theKeyboardReachesEverything() {
     AdminFixture fixture;
     const AdminWindow& window = fixture.open();
@@ -87,21 +46,55 @@ class tst_AdminWindow : public QObject {
              (fixture.enabled("CheckAndConnectButton") ? u"T"_s : u"-"_s) + label.name();
     };
     fixture.type("SoapLogin", u"me"_s);
+    fixture.type("soapPassword", u"  "_s);
     QCOMPARE(state(), u"--#000000"_s);
     fixture.type("soapPassword", u"pw"_s);
     QCOMPARE(state(), u"OT#000000"_s);
     fixture.lock(true);
-    QVERIFY(fixture.enabled("AdminPassword") && fixture.enabled("AdminPasswordRepeat"));
-    fixture.type("AdminPassword", u"Key"_s);
-    QCOMPARE(state(), u"-T#ff0000"_s);
+    const std::tuple<QString, QString, QString> rows[] = {
+        {u" "_s, u" "_s, u"-T#ff0000"_s}, {u"Key"_s, u"k"_s, u"-T#ff0000"_s}, {u"Key "_s, u" kEY"_s, u"OT#000000"_s}};
+    for (const auto& [password, repeat, wanted] : rows) {
+      fixture.type("AdminPassword", password);
+      fixture.type("AdminPasswordRepeat", repeat);
+      QCOMPARE(state(), wanted);
+    }
+    fixture.type("AdminPasswordRepeat", u"k"_s);
     QTest::keyClick(fixture.control("SoapLogin"), Qt::Key_Return);
     QVERIFY(fixture.window().isVisible());
-    fixture.type("AdminPasswordRepeat", u"kEY"_s);
-    QCOMPARE(state(), u"OT#000000"_s);
-    fixture.type("AdminPasswordRepeat", u"k"_s);
     fixture.lock(false);
-    QCOMPARE(state(), u"OT#000000"_s);
-    QVERIFY(!fixture.enabled("AdminPassword"));
+    QVERIFY(state() == u"OT#000000"_s && !fixture.enabled("AdminPassword"));
+  }
+
+  void thePromptBeforeTheWindow_data() {
+    addColumns<QString, QString, bool, bool, bool>("stored", "typed", "asked", "refused", "passed");
+    QTest::newRow("no password, no question") << u"  "_s << u""_s << false << false << true;
+    QTest::newRow("in other capitals and with blanks") << u"secret"_s << u" SECRET "_s << true << false << true;
+    QTest::newRow("a wrong one, then Escape") << u"secret"_s << u"public"_s << true << true << false;
+    QTest::newRow("only blanks, then Escape") << u"secret"_s << u"   "_s << true << false << false;
+  }
+  void thePromptBeforeTheWindow() {
+    QFETCH(QString, stored);
+    QFETCH(QString, typed);
+    QFETCH(bool, refused);
+    AdminFixture fixture;
+    fixture.store("AdminPassword", stored);
+    QString told;
+    const Inside<AdminPasswordWindow> prompt([&](AdminPasswordWindow& window) {
+      QCOMPARE(controlsWithoutName(window), QStringList());
+      auto* const field = window.findChild<QLineEdit*>(u"theAdminPassword"_s);
+      QCOMPARE(field->echoMode(), QLineEdit::Password);
+      field->setText(typed);
+      QCOMPARE(window.findChild<QPushButton*>(u"ContinueButton"_s)->isEnabled(), !typed.trimmed().isEmpty());
+      const BoxAnswer ok(QMessageBox::Ok);
+      QTest::keyClick(field, Qt::Key_Return);
+      told = ok.text();
+      if (!window.isVisible()) return;
+      QCOMPARE(field->text(), typed);
+      QTest::keyClick(field, Qt::Key_Escape);
+    });
+    QTEST(AdminPasswordWindow::CheckAdminPassword(nullptr), "passed");
+    QTEST(prompt.done(), "asked");
+    QCOMPARE(told, refused ? u"Incorrect Administrator Password Entered"_s : QString());
   }
 
   void returnStoresAllAndEscapeNothing() {
@@ -125,8 +118,6 @@ class tst_AdminWindow : public QObject {
     QTRY_COMPARE(onDisk(keys), u"SoapLogin|soapPassword|TheProxyAddress|8080|AdminPassword"_s);
 
     fixture.open();
-    QCOMPARE(fixture.text("AdminPassword") + fixture.text("AdminPasswordRepeat"), u"AdminPasswordAdminPassword"_s);
-    QVERIFY(fixture.enabled("OKAdminButton"));
     fixture.lock(false);
     fixture.type("TheProxyPort", {});
     fixture.press("OKAdminButton");

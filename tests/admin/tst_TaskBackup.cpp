@@ -113,7 +113,7 @@ class tst_TaskBackup : public QObject {
       QCOMPARE(told.text(), save ? klCopyingStopped() + u"\n\na.vnt\nb.vnt"_s : QString());
       QCOMPARE(fixture.window().outcome().tasksRestored, !save);
     }
-    QVERIFY(BackgroundCall::waitForAll(5000));
+    QVERIFY(BackgroundCall::waitForAll(60'000));
     QVERIFY(!QFile::exists(share + u"/b.vnt"_s));
     QCOMPARE(task(u"a.vnt"_s), "here");
   }

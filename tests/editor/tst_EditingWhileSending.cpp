@@ -25,9 +25,7 @@ class Bench {
     UploaderTask::addTask(task);
     MainWindowCommands commands;
     commands.beginStartUp = [](const StartUp::Events& events) { events.tasksLoaded(); };
-    commands.editTask = [this](const TaskPointer& edited) {
-      return ++opened, EditTaskWindow::EditTask(edited, window.get());
-    };
+    commands.editTask = [this](const TaskPointer& edited) { return EditTaskWindow::EditTask(edited, window.get()); };
     window = std::make_unique<VTUploaderMainWIndow>(commands);
     window->show();
     window->ListTasks();
@@ -35,7 +33,7 @@ class Bench {
   ~Bench() {
     engine.service.release();
     window.reset();
-    if (!BackgroundCall::waitForAll(10'000)) qFatal("a call did not end");
+    if (!BackgroundCall::waitForAll(60'000)) qFatal("a call did not end");
     VTTrack::setTracks({});
   }
 
@@ -44,16 +42,11 @@ class Bench {
     engine.drop(u"a.txt"_s);
     engine.service.hold();
     UploadThread::Start();
-    if (!engine.service.waitForHeld(1, 10'000)) qFatal("the batch did not begin");
+    if (!engine.service.waitForHeld(1, 60'000)) qFatal("the batch did not begin");
   }
   void endBatch() {
     engine.service.release();
-    QTRY_VERIFY_WITH_TIMEOUT(!UploadThread::ProcessingNow(), 20'000);
-  }
-  void pressEdit() {
-    auto* const list = controlOf<QTreeView>(*window, "TaskList");
-    list->setCurrentIndex(list->model()->index(0, 0));
-    press(*window, "EditButton");
+    QTRY_VERIFY_WITH_TIMEOUT(!UploadThread::ProcessingNow(), 60'000);
   }
   /// Presses Edit, and does that while the dialog is open.
   void edit(const std::function<void(EditTaskWindow&)>& whileOpen) {
@@ -61,31 +54,38 @@ class Bench {
       whileOpen(open);
       open.reject();
     });
-    pressEdit();
+    auto* const list = controlOf<QTreeView>(*window, "TaskList");
+    list->setCurrentIndex(list->model()->index(0, 0));
+    press(*window, "EditButton");
   }
   static void press(QWidget& in, const char* button) { controlOf<QPushButton>(in, button)->click(); }
   /// Runs the upload thread until these files have arrived in all, in that order.
   void runUntil(const QStringList& received) {
     UploadThread::Start();
-    QTRY_COMPARE_WITH_TIMEOUT(engine.received(), received, 20'000);
+    QTRY_COMPARE_WITH_TIMEOUT(engine.received(), received, 60'000);
     endBatch();
   }
 
   EngineBench engine;
   TaskPointer task = engine.makeTask(u"Press"_s);
   std::unique_ptr<VTUploaderMainWIndow> window;
-  int opened = 0;
 };
 
 class tst_EditingWhileSending : public QObject {
   Q_OBJECT
  private slots:
-  void noRunBeginsWhileTheEditorIsOpen() {
+  void aTaskReplacedDuringItsBatchSendsNothingTwiceAndNoRunBeginsWhileTheEditorIsOpen() {
     Bench bench;
     bench.beginBatch();
     QVERIFY(bench.task->Busy);
-    bench.edit([&](EditTaskWindow&) {
+    bench.edit([&](EditTaskWindow& dialog) {
       QVERIFY(!UploadThread::Enabled);
+      QTRY_VERIFY(controlOf<QPushButton>(dialog, "OkButton")->isEnabled());
+      Bench::press(dialog, "OkButton");
+    });
+    const TaskPointer replaced = UploaderTask::allTasks().first();
+    QVERIFY(UploadThread::Enabled && replaced != bench.task);
+    bench.edit([&](EditTaskWindow&) {
       bench.endBatch();
       bench.engine.clock.advance(100);
       bench.engine.drop(u"b.txt"_s);
@@ -93,22 +93,7 @@ class tst_EditingWhileSending : public QObject {
       QTRY_VERIFY(!UploadThread::ProcessingNow());
       QCOMPARE(bench.engine.received(), QStringList{u"a.txt"_s});
     });
-    QVERIFY(bench.opened == 1 && UploadThread::Enabled && !bench.task->Busy);
-    bench.runUntil({u"a.txt"_s, u"b.txt"_s});
-  }
-
-  void aTaskReplacedDuringItsBatchSendsNothingTwice() {
-    Bench bench;
-    bench.beginBatch();
-    bench.edit([&](EditTaskWindow& dialog) {
-      QTRY_VERIFY(controlOf<QPushButton>(dialog, "OkButton")->isEnabled());
-      Bench::press(dialog, "OkButton");
-    });
-    const TaskPointer replaced = UploaderTask::allTasks().first();
-    QVERIFY(UploadThread::Enabled && replaced != bench.task);
-    bench.endBatch();
-    bench.engine.clock.advance(100);
-    bench.engine.drop(u"b.txt"_s);
+    QVERIFY(UploadThread::Enabled && !replaced->Busy);
     bench.runUntil({u"a.txt"_s, u"b.txt"_s});
     QVERIFY(bench.task->UploadedCount == 1 && replaced->UploadedCount == 1);
   }
@@ -128,16 +113,6 @@ class tst_EditingWhileSending : public QObject {
     QCOMPARE(storedDateLimit(u"Press"_s), 0.0);
     bench.runUntil({u"earlier.txt"_s, u"a.txt"_s, u"a.txt"_s, u"earlier.txt"_s});
     QTRY_VERIFY(storedDateLimit(u"Press"_s) > 0);
-  }
-
-  void aBusyTaskThatIsDisabledIsRefused() {
-    Bench bench;
-    bench.beginBatch();
-    bench.task->disabled = true;
-    const BoxAnswer told(QMessageBox::Ok);
-    bench.pressEdit();
-    QCOMPARE(told.text(), u"This task is currently processing. Please try again in a moment"_s);
-    QVERIFY(bench.opened == 0 && UploadThread::Enabled);
   }
 };
 

@@ -1,4 +1,5 @@
-// Whether each window's captions fit their controls in every language, at 100 %.
+// Whether each window's captions fit their controls in every language and with a large font, and whether the controls
+// stand clear of each other and have names.
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -18,7 +19,7 @@
 #include "monitor/VTUploaderMainWIndow.h"
 #include "platform/Languages.h"
 #include "storage/Preferences.h"
-#include "support/TemporaryHome.h"
+#include "support/ProgramHome.h"
 #include "support/TestRunner.h"
 #include "widgets/Mnemonics.h"
 
@@ -101,22 +102,46 @@ static bool captionFits(const QWidget& control) {
   return true;
 }
 
+/// Controls that lie across another (but for its edge), reach beyond the window, or have no name for assistive
+/// technology.
+static QStringList outOfPlace(const QWidget& window) {
+  QList<const QWidget*> placed;
+  QStringList found;
+  for (const QWidget* const control : window.findChildren<QWidget*>()) {
+    const QWidget* const parent = control->parentWidget();
+    const bool read = control->focusPolicy() != Qt::NoFocus || qobject_cast<const QLabel*>(control);
+    if (!read || !control->isVisibleTo(&window) || (parent != &window && parent->parentWidget() != &window)) continue;
+    if (control->accessibleName().isEmpty() && control->focusPolicy() & Qt::TabFocus) found << control->objectName();
+    if (!parent->rect().contains(control->geometry())) found << control->objectName();
+    for (const QWidget* const other : placed)
+      if (other->parentWidget() == parent && other->geometry().adjusted(1, 1, -1, -1).intersects(control->geometry()))
+        found << control->objectName() + u" on "_s + other->objectName();
+    placed << control;
+  }
+  return found;
+}
+
 class tst_Captions : public QObject {
   Q_OBJECT
  private slots:
   void cleanup() { Languages::install({}); }
 
   void captionsFit_data() {
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<int>("window");
-    for (const QString& language : QStringList(QString()) + Languages::shipped())
-      for (int i = 0; i < int(std::size(windows)); ++i)
-        QTest::addRow("%s in \"%s\"", windows[i].name, qPrintable(language)) << language << i;
+    addColumns<QString, int, int>("language", "window", "pixels");
+    for (int i = 0; i < int(std::size(windows)); ++i) {
+      for (const QString& language : QStringList(QString()) + Languages::shipped())
+        QTest::addRow("%s in \"%s\"", windows[i].name, qPrintable(language)) << language << i << 0;
+      // The main window's banner is a picture of a fixed height.
+      if (i > 0) QTest::addRow("%s in a large font", windows[i].name) << QString() << i << 22;
+    }
   }
   void captionsFit() {
     QFETCH(QString, language);
     QFETCH(int, window);
+    QFETCH(int, pixels);
     const TemporaryHome home;
+    std::optional<FontSize> font;
+    if (pixels > 0) font.emplace(pixels);
     Languages::install(language);
     const std::unique_ptr<QWidget> shown = windows[window].make();
     (void)shown->grab();  // lays it out
@@ -125,6 +150,11 @@ class tst_Captions : public QObject {
       if (control->isVisibleTo(shown.get()) && !Eliding.contains(control->objectName()) && !captionFits(*control))
         cut << u"%1 (%2 pixels)"_s.arg(control->objectName()).arg(QFontInfo(control->font()).pixelSize());
     QVERIFY2(cut.isEmpty(), qPrintable(cut.join(u", "_s)));
+    for (const QSize size : {shown->size(), shown->minimumSize(), QSize(1800, 1100)}) {
+      shown->resize(size);
+      (void)shown->grab();
+      QCOMPARE(outOfPlace(*shown).join(u", "_s), QString());
+    }
   }
 };
 

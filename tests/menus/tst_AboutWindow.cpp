@@ -35,17 +35,6 @@ class tst_AboutWindow : public QObject {
       QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, version->geometry().center());
     QVERIFY(!window.isVisible());
   }
-
-  void theMaskHoldsPixelByPixelOnASharpScreen() {
-    QImage picture(2, 1, QImage::Format_RGB32), mask(2, 1, QImage::Format_RGB32);
-    picture.fill(Qt::red);
-    mask.setPixelColor(0, 0, Qt::black);
-    mask.setPixelColor(1, 0, Qt::white);
-    picture.setDevicePixelRatio(1.5);
-    const QImage composed = composeWithMask(picture, mask);
-    QCOMPARE(composed.pixelColor(0, 0).alpha(), 0);
-    QCOMPARE(composed.pixelColor(1, 0), QColor(Qt::red));
-  }
 };
 
 VANTRY_TEST(tst_AboutWindow);

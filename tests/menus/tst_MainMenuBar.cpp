@@ -12,13 +12,6 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-static QString itemsOf(const QMenu& menu) {
-  QStringList items{menu.title()};
-  for (const QAction* const item : menu.actions())
-    items << item->objectName() + u' ' + item->text() + u' ' + item->shortcut().toString(QKeySequence::PortableText);
-  return items.join(u", "_s);
-}
-
 static QString enabledItems(const QMenu& menu) {
   QStringList names;
   for (const QAction* const item : menu.actions())
@@ -29,17 +22,6 @@ static QString enabledItems(const QMenu& menu) {
 class tst_MainMenuBar : public QObject {
   Q_OBJECT
  private slots:
-  void theMenusHaveTheirItems() {
-    const MainMenuBar bar;
-    QCOMPARE(itemsOf(*bar.FileMenu),
-             u"&File, FileAbout About Vantry Uploader... , FileCheckForUpdates Check For "
-             "Updates , UntitledSeparator  , FileQuit &Quit Ctrl+Q"_s);
-    QCOMPARE(itemsOf(*bar.EditMenu),
-             u"&Edit, EditUndo &Undo Ctrl+Z, EditSeparator1  , EditCut Cu&t Ctrl+X, EditCopy "
-             "&Copy Ctrl+C, EditPaste &Paste Ctrl+V, EditClear &Delete , EditSeparator2  , "
-             "EditSelectAll Select &All Ctrl+A"_s);
-  }
-
   void theEditMenuFollowsTheField_data() {
     QTest::addColumn<QWidget*>("field");
     QTest::addColumn<QString>("enabled");  // once everything in the field is selected

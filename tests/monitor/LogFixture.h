@@ -19,7 +19,7 @@ class LogFixture : public WindowControls {
   }
   ~LogFixture() override {
     close();
-    if (!BackgroundCall::waitForAll(20'000)) qFatal("a call did not end");
+    if (!BackgroundCall::waitForAll(60'000)) qFatal("a call did not end");
     VantryUtil::LogEntry::setRowObserver({});
     VantryUtil::logDB.reset();
   }

@@ -15,7 +15,7 @@ class WindowFixture : public WindowControls {
   ~WindowFixture() override {
     destroyWindow();
     UploadThread::Enabled = false;
-    if (!UploadThread::stop(5000)) qFatal("the run did not end");
+    if (!UploadThread::stop(60'000)) qFatal("the run did not end");
     UploadThread::allowAgain();
   }
 

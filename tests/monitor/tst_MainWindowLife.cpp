@@ -34,46 +34,35 @@ class tst_MainWindowLife : public QObject {
     QVERIFY(!ending.startUp);
   }
 
-  void theTasksAppearWhenTheyAreLoadedAndNotInAClosedWindow() {
+  void theTasksAppearAndMayBeChangedOnceTheyAreLoadedAndNotInAClosedWindow() {
     WindowFixture fixture;
-    WindowFixture::storeTask(u"A"_s, u"a.vnt"_s);
-    fixture.window().StartItUp();
-    QCOMPARE(fixture.strip(), VTULocalization::klStripConnecting());
-    UploaderTask::Load();
-    UploadThread::Enabled = true;
-    std::thread(fixture.startUp->tasksLoaded).join();
-    QVERIFY(fixture.names().isEmpty());
-    QTRY_COMPARE(fixture.names(), u"A"_s);
-    QCOMPARE(fixture.strip(), VTULocalization::klStripChecking());
-    UploaderTask::allTasks().first()->Status = UploaderTask::Ready;
-    QTRY_VERIFY(fixture.strip().startsWith(u"All is well since "_s));
-    std::thread(fixture.startUp->tasksLoaded).join();
-    fixture.destroyWindow();
-    std::thread([&fixture] { fixture.startUp->failed(u"late"_s); }).join();
-    QCoreApplication::processEvents();
-    QVERIFY(!QApplication::activeModalWidget());
-  }
-
-  void noTaskIsChangedUntilTheTasksAreLoaded() {
-    WindowFixture fixture;
-    WindowFixture::storeTask(u"A"_s, u"a.vnt"_s);
-    UploaderTask::Load();
     int changed = 0;
     fixture.commands.createNewTask = [&changed] { return ++changed > 0; };
     fixture.commands.editTask = [&changed](const TaskPointer&) { return ++changed > 0; };
-    fixture.window().ListTasks();
+    fixture.listTasks({u"A"_s});
     fixture.window().StartItUp();
+    UploadThread::Enabled = true;
     fixture.select(0);
     for (const char* const command : {"NewButton", "EditButton", "DuplicateButton", "RemoveButton"}) {
       fixture.press(command);
       QCOMPARE(fixture.strip(), VTULocalization::klStripConnecting());
     }
-    QCOMPARE(changed, 0);
-    QCOMPARE(UploaderTask::allTasks().size(), 1);
+    QVERIFY(changed == 0 && UploaderTask::allTasks().size() == 1);
+    WindowFixture::storeTask(u"B"_s, u"b.vnt"_s);
+    UploaderTask::Load();
     std::thread(fixture.startUp->tasksLoaded).join();
-    QTRY_COMPARE(fixture.strip(), VTULocalization::klStripChecking());
+    QCOMPARE(fixture.names(), u"A"_s);
+    QTRY_COMPARE(fixture.names(), u"A|B"_s);
+    QCOMPARE(fixture.strip(), VTULocalization::klStripChecking());
+    for (const TaskPointer& task : UploaderTask::allTasks()) task->Status = UploaderTask::Ready;
+    QTRY_VERIFY(fixture.strip().startsWith(u"All is well since "_s));
     fixture.press("NewButton");
     QCOMPARE(changed, 1);
+    std::thread(fixture.startUp->tasksLoaded).join();
+    fixture.destroyWindow();
+    std::thread([&fixture] { fixture.startUp->failed(u"late"_s); }).join();
+    QCoreApplication::processEvents();
+    QVERIFY(!QApplication::activeModalWidget());
   }
 
   void aFailedStartIsToldAndEndsTheProgram() {

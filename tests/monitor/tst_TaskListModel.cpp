@@ -1,13 +1,10 @@
-// What a row of the task list shows, without a window; and the helpers that all windows share.
+// What a row of the task list shows, without a window.
 
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 
 #include "monitor/TaskListModel.h"
 #include "support/TestRunner.h"
-#include "widgets/Captions.h"
-#include "widgets/Mnemonics.h"
 #include "widgets/Pictures.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -38,7 +35,6 @@ class tst_TaskListModel : public QObject {
     } rows[] = {{"uploading is off, also for a fault", false, false, 3, u"up_status_off"_s, true},
                 {"a disabled task", true, true, 2, u"up_status_off"_s, true},
                 {"a fault of a disabled task stays hidden", true, true, 3, u"up_status_off"_s, true},
-                {"not yet evaluated", true, false, 0, u"up_status_off"_s, true},
                 {"being processed", true, false, 1, u"up_status_active"_s, false},
                 {"ready", true, false, 2, u"up_status_check"_s, false},
                 {"folder fault", true, false, 3, u"up_status_fail"_s, false},
@@ -79,32 +75,13 @@ class tst_TaskListModel : public QObject {
     QVERIFY(model.hasUnevaluated());
   }
 
-  void captionsGetASmallerFontAndALetterThatAKeyboardHas() {
-    QPushButton button;
-    button.resize(80, 20);
-    QFont large = button.font();
-    large.setPixelSize(17);
-    button.setFont(large);
-    setFittedCaption(button, u"Duplizieren"_s);
-    QVERIFY(button.fontMetrics().horizontalAdvance(u"Duplizieren"_s) <= 72 && button.toolTip().isEmpty());
-    setFittedCaption(button, u"A caption that no font makes fit"_s);
-    QVERIFY(button.toolTip().contains(u"no font makes fit"_s));
-    Mnemonics letters;
-    for (const auto& [text, marked] : {std::pair(u"Łącza"_s, u"&Łącza"_s),
-                                       {u"タスク名"_s, u"タスク名"_s},
-                                       {u"フォルダーのURL"_s, u"フォルダーの&URL"_s}})
-      QCOMPARE(letters.mark(text), marked);
-  }
-
-  void thePicturesOfTheStatesDifferInShapeAndAreSharpOnEveryScreen() {
+  void thePicturesOfTheStatesDifferInShape() {
     QSet<QByteArray> outlines;
     for (const auto& name : {u"up_status_off"_s, u"up_status_active"_s, u"up_status_check"_s, u"up_status_fail"_s}) {
-      for (const qreal ratio : {1.0, 1.5, 2.0}) QCOMPARE(Pictures::load(name, ratio).size(), QSize(20, 20) * ratio);
       const QImage alpha = Pictures::load(name, 1).toImage().convertToFormat(QImage::Format_Alpha8);
       outlines.insert(QByteArray(reinterpret_cast<const char*>(alpha.constBits()), alpha.sizeInBytes()));
     }
     QCOMPARE(outlines.size(), 4);
-    QVERIFY(Pictures::load(u"no such picture"_s, 1).isNull());
   }
 };
 

@@ -19,5 +19,13 @@ void addColumns(auto... names) {
   (QTest::addColumn<Types>(names), ...);
 }
 
+// What is waited for may take a minute on a loaded machine, above all under sanitizers.
+#undef QTRY_VERIFY
+#undef QTRY_VERIFY2
+#undef QTRY_COMPARE
+#define QTRY_VERIFY(condition) QTRY_VERIFY_WITH_TIMEOUT((condition), 60'000)
+#define QTRY_VERIFY2(condition, message) QTRY_VERIFY2_WITH_TIMEOUT((condition), (message), 60'000)
+#define QTRY_COMPARE(actual, expected) QTRY_COMPARE_WITH_TIMEOUT((actual), (expected), 60'000)
+
 #define VANTRY_TEST(Class) \
   static const bool registered_##Class = TestRunner::add([] { return std::unique_ptr<QObject>(new Class); })
