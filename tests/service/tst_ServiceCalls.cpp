@@ -150,49 +150,37 @@ class tst_ServiceCalls : public QObject {
     QCOMPARE(AccountURL(), u"https://elsewhere.example/api"_s);
   }
 
-  void cataloguesAreFetchedAndEmptiedByAFailure() {
+  void cataloguesAreEmptiedByAFailureAndAskedForAgain() {
     QVERIFY(TrackList() && InstrumentTrackList());
-    QVERIFY(VTTrack::everFetched() && VTInstrumentTrack::everFetched());
-    QVERIFY(VTTrack::getTrackwithWorkflowName(PracticeService::knownPrintTrack().toUpper()));
     QVERIFY(VTInstrumentTrack::GetTrackWithName(PracticeService::knownInstrumentTrack()));
     m_service->stop();
     HttpFailure failure;
     QVERIFY(!TrackList(&failure) && !InstrumentTrackList() && failure.phase == Phase::Connect);
     QVERIFY(VTTrack::Tracks().isEmpty() && VTInstrumentTrack::Tracks().isEmpty());
-    QVERIFY(!VTTrack::everFetched() && !VTInstrumentTrack::everFetched());  // so that they are asked for again
+    QVERIFY(!VTTrack::everFetched() && !VTInstrumentTrack::everFetched());
   }
 
-  void trackLookupsTakeTheFirstMatchInAnyCase() {
+  void lookupsTakeTheFirstMatchInAnyCaseOfWholeIdentities() {
     const auto json = JSONStringtoDictionary(
         u"[{'Device':'B','TrackName':'Day','TrackWorkflowName':'1','Backing':7},"
-        "{'Device':'a','TrackName':'day','TrackWorkflowName':'2'},"
         "{'Device':'b','TrackName':'DAY','TrackWorkflowName':'3'},"
         "{'Device':'b','TrackName':'Night','TrackWorkflowName':'4','Other':1},{}]"_s.replace(u'\'', u'"'));
     QList<VTTrack> tracks;
     for (const QVariant& record : json->Values()) tracks << VTTrack(JSONtoDictionary(record.value<JSONItem>()));
     VTTrack::setTracks(tracks);
     QCOMPARE(tracks.value(0).Backing, u"7"_s);
-    QCOMPARE(VTTrack::ListDevices(), (QStringList{u"B"_s, u"a"_s, QString()}));
+    QCOMPARE(VTTrack::ListDevices(), (QStringList{u"B"_s, QString()}));
     QCOMPARE(VTTrack::GetTracksForDevice(u"b"_s), (QStringList{u"Day"_s, u"Night"_s}));
     QCOMPARE(VTTrack::GetTrackWorkflowNameForDeviceAndTrack(u"b"_s, u"dAY"_s), u"1"_s);
-    QCOMPARE(VTTrack::GetTrackWorkflowNameForDeviceAndTrack(u"a"_s, u"night"_s), QString());
     QVERIFY(!VTTrack::getTrackwithWorkflowName(u"5"_s));
     VTTrack::setTracks({});
-  }
-
-  void instrumentLookupsCompareWholeIdentities() {
-    QList<VTInstrumentTrack> tracks(3);
-    for (qsizetype i = 0; i < 3; ++i) {
-      tracks[i].InstrumentName = i == 2 ? u"METER"_s : u"Meter"_s;
-      tracks[i].InstrumentSerial = i == 1 ? u"2"_s : QString();
-      tracks[i].TargetName = i == 2 ? u"Strip"_s : u"Chart"_s;
-      tracks[i].ITWorkflowName = QString::number(i + 1);
-    }
-    VTInstrumentTrack::setTracks(tracks);
+    QList<VTInstrumentTrack> instruments(2);
+    for (VTInstrumentTrack& track : instruments) track.InstrumentName = track.TargetName = u"Meter"_s;
+    instruments[1].InstrumentSerial = instruments[1].ITWorkflowName = u"2"_s;
+    VTInstrumentTrack::setTracks(instruments);
     QCOMPARE(VTInstrumentTrack::InstrumentNames(), (QStringList{u"Meter "_s, u"Meter 2"_s}));
-    QCOMPARE(VTInstrumentTrack::GetTargetsForDevice(u"meter "_s), (QStringList{u"Chart "_s, u"Strip "_s}));
-    QCOMPARE(VTInstrumentTrack::GetITWorkflowNameForInstrumentAndTarget(u"Meter "_s, u"strip "_s), u"3"_s);
-    QCOMPARE(VTInstrumentTrack::GetITWorkflowNameForInstrumentAndTarget(u"Meter"_s, u"Chart "_s), QString());
+    QCOMPARE(VTInstrumentTrack::GetITWorkflowNameForInstrumentAndTarget(u"meter 2"_s, u"METER "_s), u"2"_s);
+    QCOMPARE(VTInstrumentTrack::GetITWorkflowNameForInstrumentAndTarget(u"Meter"_s, u"Meter "_s), QString());
     VTInstrumentTrack::setTracks({});
   }
 };
