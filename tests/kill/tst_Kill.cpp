@@ -38,7 +38,7 @@ class tst_Kill : public QObject {
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(n > 0 ? u"strace"_s : arguments.takeFirst(), arguments);
-    if (!process.waitForFinished(60'000)) qFatal("%s", qPrintable(process.errorString()));
+    if (!process.waitForFinished(300'000)) qFatal("%s", qPrintable(process.errorString()));
     // strace ends as its child did, by the same signal.
     return {process.exitStatus() == QProcess::CrashExit || process.exitCode() == 128 + 9, process.exitCode(),
             process.readAll()};
