@@ -44,7 +44,9 @@ struct Misbehaviour {
   QByteArray text{};
   qint64 bytes = 0;
   int everyMs = 0;
-  bool closeAfter = false;  ///< EarlyError: drops the connection, unread bytes and all; otherwise it stays open
-  int times = 1;            ///< requests (or connections) that it befalls; 0: every one until cleared
-  QByteArray method{};      ///< requests of this method alone, such as "SendFile"; empty for any
+  /// Drops the connection behind the reply, without TLS goodbye, unread bytes and all; otherwise it ends in good order,
+  /// or stays open (EarlyError).
+  bool closeAfter = false;
+  int times = 1;        ///< requests (or connections) that it befalls; 0: every one until cleared
+  QByteArray method{};  ///< requests of this method alone, such as "SendFile"; empty for any
 };

@@ -210,7 +210,7 @@ void PracticeConnection::write(qint64 bytes) {
 void PracticeConnection::bytesWentOut() {
   if (m_phase != Phase::Reply || !m_allWritten) return;
   if (m_socket->bytesToWrite() > 0 || m_socket->encryptedBytesToWrite() > 0) return;
-  if (does(Kind::CutReply) || (does(Kind::EarlyError) && m_misbehaviour->closeAfter)) return drop();
+  if (does(Kind::CutReply) || (m_misbehaviour && m_misbehaviour->closeAfter)) return drop();
   becomeDeaf();
   if (does(Kind::StallReply) || does(Kind::EarlyError)) return;
   if (m_drains)

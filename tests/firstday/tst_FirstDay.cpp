@@ -47,7 +47,7 @@ class tst_FirstDay : public QObject {
     QTimer::singleShot(0, m_window.get(), &QWidget::close);
     QCOMPARE(QApplication::exec(), 0);
     UploadThread::Enabled = false;
-    QVERIFY(StartUp::stop(5000) && UploadThread::stop(5000) && BackgroundCall::waitForAll(5000));
+    QVERIFY(StartUp::stop(60'000) && UploadThread::stop(60'000) && BackgroundCall::waitForAll(60'000));
     m_window.reset();
     UploaderTask::unload();
     UploadThread::allowAgain();
@@ -62,10 +62,10 @@ class tst_FirstDay : public QObject {
       for (const char* const button : {"InputFolderSetButton", "OutputFOlderSetButton"}) {
         const Choice choice(m_bench->home.makeFolder(name + QLatin1String(button[0] == 'I' ? "" : " done")));
         press(dialog, button);
-        QTRY_VERIFY(choice.made());
+        QTRY_VERIFY_WITH_TIMEOUT(choice.made(), 60'000);
       }
       controlOf<QCheckBox>(dialog, "DeleteFileAfterCopyCheckBox")->setChecked(true);
-      QTRY_VERIFY(controlOf<QPushButton>(dialog, "OkButton")->isEnabled());
+      QTRY_VERIFY_WITH_TIMEOUT(controlOf<QPushButton>(dialog, "OkButton")->isEnabled(), 60'000);
       press(dialog, "OkButton");
     });
     press(*m_window, "NewButton");
@@ -99,7 +99,7 @@ class tst_FirstDay : public QObject {
     UploadThread::Enabled = false;
   }
   void cleanup() {
-    StartUp::stop(5000);
+    StartUp::stop(60'000);
     m_window.reset();
     m_bench.reset();
     VTTrack::setTracks({});
@@ -114,15 +114,16 @@ class tst_FirstDay : public QObject {
       type(admin, "soapPassword", u"wrong"_s);
       const BoxAnswer refused(QMessageBox::Ok);
       press(admin, "CheckAndConnectButton");
-      QTRY_COMPARE(refused.text(), VantryUtil::errToString(u"E009"_s));
+      QTRY_COMPARE_WITH_TIMEOUT(refused.text(), VantryUtil::errToString(u"E009"_s), 60'000);
       type(admin, "soapPassword", PracticeService::Options().password);
       press(admin, "CheckAndConnectButton");
-      QTRY_COMPARE(controlOf<QLabel>(admin, "TestLine")->text(), VTULocalization::klTestSucceeded());
+      QTRY_COMPARE_WITH_TIMEOUT(controlOf<QLabel>(admin, "TestLine")->text(), VTULocalization::klTestSucceeded(),
+                                60'000);
       press(admin, "OKAdminButton");
     });
     start();
-    QTRY_VERIFY(setUp.done());
-    QTRY_VERIFY_WITH_TIMEOUT(UploadThread::Enabled && VTInstrumentTrack::everFetched(), 10'000);
+    QTRY_VERIFY_WITH_TIMEOUT(setUp.done(), 60'000);
+    QTRY_VERIFY_WITH_TIMEOUT(UploadThread::Enabled && VTInstrumentTrack::everFetched(), 60'000);
     QVERIFY2(Problems::present().isEmpty(), "the strip asks for no login any more");
 
     const QString print = PracticeService::knownPrintTrack(), pair = PracticeService::knownInstrumentTrack();
@@ -131,7 +132,7 @@ class tst_FirstDay : public QObject {
     QCOMPARE(listed(), (QStringList{u"Bench"_s, u"Press"_s}));
     m_bench->drop(u"p.txt"_s, "patches", u"Press"_s);
     m_bench->drop(u"b.txt"_s, "readings", u"Bench"_s);
-    QTRY_COMPARE_WITH_TIMEOUT(m_bench->log().size(), 2, 10'000);
+    QTRY_COMPARE_WITH_TIMEOUT(m_bench->log().size(), 2, 60'000);
     QStringList sent, notes = m_bench->notes();
     for (const PracticeReceipt& receipt : service.receipts())
       sent << receipt.name + receipt.kind + receipt.destination + QString::fromUtf8(receipt.content);
@@ -143,10 +144,10 @@ class tst_FirstDay : public QObject {
     QCOMPARE(m_bench->files(u"Press done"_s) + m_bench->files(u"Bench done"_s), (QStringList{u"p.txt"_s, u"b.txt"_s}));
     QVERIFY((m_bench->files(u"Press"_s) + m_bench->files(u"Bench"_s)).isEmpty());
 
-    QTRY_VERIFY(!UploadThread::ProcessingNow());
+    QTRY_VERIFY_WITH_TIMEOUT(!UploadThread::ProcessingNow(), 60'000);
     const Inside<EditTaskWindow> renaming([](EditTaskWindow& dialog) {
       type(dialog, "TaskName", u"Press 7"_s);
-      QTRY_VERIFY(controlOf<QPushButton>(dialog, "OkButton")->isEnabled());
+      QTRY_VERIFY_WITH_TIMEOUT(controlOf<QPushButton>(dialog, "OkButton")->isEnabled(), 60'000);
       press(dialog, "OkButton");
     });
     command(u"Press"_s, "EditButton");
@@ -159,10 +160,10 @@ class tst_FirstDay : public QObject {
     m_bench->restart();
     VantryUtil::setAccountURL({});
     start();
-    QTRY_COMPARE_WITH_TIMEOUT(listed(), (QStringList{u"Press 7"_s, u"Press 7 Copy"_s}), 10'000);
+    QTRY_COMPARE_WITH_TIMEOUT(listed(), (QStringList{u"Press 7"_s, u"Press 7 Copy"_s}), 60'000);
     m_bench->drop(u"p2.txt"_s, "more", u"Press"_s);
     m_bench->drop(u"b2.txt"_s, "more", u"Bench"_s);
-    QTRY_COMPARE_WITH_TIMEOUT(m_bench->files(u"Press done"_s), (QStringList{u"p.txt"_s, u"p2.txt"_s}), 10'000);
+    QTRY_COMPARE_WITH_TIMEOUT(m_bench->files(u"Press done"_s), (QStringList{u"p.txt"_s, u"p2.txt"_s}), 60'000);
     QCOMPARE(m_bench->received().size(), 3);
     quit();
   }

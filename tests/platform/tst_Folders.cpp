@@ -42,27 +42,24 @@ class tst_Folders : public QObject {
     QCOMPARE(children.join(u' '), u".._.._etc a_b __ _ _😀"_s);
   }
 
-  void renamingReplacesNothing_data() {
-    addColumns<QString, QString, int, QString>("from", "to", "error", "present");
-    QTest::newRow("a file") << u"a"_s << u"new"_s << 0 << u"b link new"_s;
-    QTest::newRow("over another file") << u"a"_s << u"b"_s << EEXIST << u"a b link"_s;
-    QTest::newRow("out of its folder") << u"a"_s << u"../x"_s << 0 << u".._x b link"_s;
-    QTest::newRow("a broken link") << u"link"_s << u"new"_s << 0 << u"a b new"_s;
-    QTest::newRow("what doesn't exist") << u"gone"_s << u"b"_s << 0 << u"a b link"_s;
-  }
   void renamingReplacesNothing() {
-    QFETCH(QString, from);
-    QFETCH(QString, to);
-    write({"a", "b"});
-    QVERIFY(QFile::link(u"nowhere"_s, m_home->path(u"in/link"_s)));
-    FolderItem item = m_folder->Child(from);
-    const int error = item.setName(to).error;
-    QTEST(error, "error");
-    QCOMPARE(item.Name(), error ? from : to.replace(u'/', u'_'));
-    QStringList names;
-    for (const FolderItem& present : m_folder->Items()) names << present.Name();
-    QTEST(names.join(u' '), "present");
-    QCOMPARE(TemporaryHome::readFile(m_home->path(u"in/b"_s)), "b"_ba);
+    const std::tuple<QString, QString, int, QString> rows[] = {{u"a"_s, u"new"_s, 0, u"b link new"_s},
+                                                               {u"a"_s, u"b"_s, EEXIST, u"a b link"_s},
+                                                               {u"a"_s, u"../x"_s, 0, u".._x b link"_s},
+                                                               {u"link"_s, u"new"_s, 0, u"a b new"_s},
+                                                               {u"gone"_s, u"b"_s, 0, u"a b link"_s}};
+    for (const auto& [from, to, error, present] : rows) {
+      init();
+      write({"a", "b"});
+      QVERIFY(QFile::link(u"nowhere"_s, m_home->path(u"in/link"_s)));
+      FolderItem item = m_folder->Child(from);
+      QCOMPARE(item.setName(to).error, error);
+      QCOMPARE(item.Name(), error ? from : QString(to).replace(u'/', u'_'));
+      QStringList names;
+      for (const FolderItem& found : m_folder->Items()) names << found.Name();
+      QCOMPARE(names.join(u' '), present);
+      QCOMPARE(TemporaryHome::readFile(m_home->path(u"in/b"_s)), "b"_ba);
+    }
   }
 
   void accessFollowsTheKernelAndWhatIsNotThereIsNothing() {

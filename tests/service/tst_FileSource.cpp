@@ -36,25 +36,6 @@ class tst_FileSource : public QObject {
   }
 
  private slots:
-  void theWholeEnvelopeInItsAnnouncedLength() {
-    for (const int size : {0, 1, 2, 3, 49'151, 49'152, 49'153, 200'000}) {
-      const FolderItem file = makeFile(size);
-      FileSourceState state;
-      FileSource source(file, *versionOf(file), state);
-      source.setEnvelope("<before>", "</behind>");
-      qint64 reported = 0;
-      source.setProgress([&](qint64 sent, qint64 total) {
-        QVERIFY(sent <= total && sent > reported && sent - reported <= 48 << 10);
-        reported = sent;
-      });
-      const qint64 announced = source.size();
-      QByteArray all;
-      readToTheEnd(source, all);
-      QCOMPARE(all, "<before>" + TemporaryHome::readFile(file.NativePath()).toBase64() + "</behind>");
-      QVERIFY(announced == all.size() && reported == size && !state.changed && state.failure.ok());
-    }
-  }
-
   void aFileThatIsNotInItsVersionIsNotSentToItsEnd() {
     const auto dateBack = [](const char* path) { return TemporaryHome::setDate(QString::fromUtf8(path), Dated), true; };
     const Change grows = [](const char* path) { return write(path, "more", 100'000); };

@@ -1,8 +1,3 @@
-#include <openssl/ssl.h>
-
-#include <QTemporaryDir>
-
-#include "ScriptedServer.h"
 #include "practice/PracticeProxy.h"
 #include "practice/PracticeService.h"
 #include "practice/PracticeSink.h"
@@ -68,35 +63,29 @@ class tst_HTTPSecureSocket : public QObject {
       QVERIFY(page.isEmpty() && service.requests().isEmpty());  // not a byte of the envelope
       if (authorities == u"/nowhere/ca.pem"_s) continue;
       QVERIFY(failure.detail.contains(host));
-      QTRY_COMPARE(service.failedHandshakes(), 1);
+      QTRY_COMPARE_WITH_TIMEOUT(service.failedHandshakes(), 1, Long);
       QVERIFY(service.bytesBeforeFailedHandshakes() < 1500);
     }
   }
 
-  void bothVersionsOfTlsServe() {
+  void bothVersionsOfTlsServeAndSessionsAreResumed() {
     for (const int version : {12, 13}) {
       PracticeService::Options options;
       options.onlyTls = {version};
       PracticeService service(options);
       start(service);
-      for (int i = 0; i < 3; ++i) {
-        HTTPSecureSocket socket;
-        QVERIFY2(post(socket, service.url()).contains("E009"), qPrintable(socket.failure().detail));
-        QVERIFY(!socket.failure().failed());
-      }
+      HTTPSecureSocket socket;
+      QVERIFY2(post(socket, service.url()).contains("E009"), qPrintable(socket.failure().detail));
       QCOMPARE(service.requests().value(0).body, Call);
     }
-  }
-
-  void sessionsAreResumed() {
     PracticeSink sink;
     QVERIFY2(sink.start(), qPrintable(sink.errorString()));
     VantryUtil::setExtraCaFile(sink.caFile());
-    for (int i = 0; i < 3; ++i) {
+    for (int resumed = 0; resumed < 3; ++resumed) {
       HTTPSecureSocket socket;
       QVERIFY(!post(socket, sink.url()).isEmpty());
+      QCOMPARE(sink.resumedSessions(), resumed);
     }
-    QCOMPARE(sink.resumedSessions(), 2);
   }
 
   void aConnectionMadeAheadServesTheNextExchangeUnlessTheServerEndedIt() {
@@ -121,21 +110,14 @@ class tst_HTTPSecureSocket : public QObject {
 
   void everyMisbehaviourOfTheService() {
     using Kind = Misbehaviour::Kind;
-    const QByteArray nested = "<!ENTITY e9 \"&e8;&e8;&e8;&e8;&e8;&e8;&e8;&e8;&e8;&e8;\">";
     const std::tuple<Misbehaviour, Phase, QByteArray> rows[] = {
-        {{Kind::ErrorCode, "E004"}, Phase::None, "<return>E004</return>"},
         {{Kind::HtmlError}, Phase::None, "<br></body>"},
         {{Kind::Redirect, "https://localhost:1/"}, Phase::None, "<html>"},
         {{Kind::EmptyReply}, Phase::None, {}},
-        {{Kind::EmptyReturn}, Phase::None, "<return></return>"},
-        {{Kind::NoReturn}, Phase::None, "<result>done</result>"},
-        {{Kind::SeveralReturns, "one & two"}, Phase::None, "<return/><return>one &amp; two</return><return>"},
-        {{Kind::NotJson}, Phase::None, "{&quot;status&quot;:&quot;ok&quot;,,}</return>"},
-        {{Kind::DeepJson, {}, 65}, Phase::None, QByteArray(65, '[') + ']'},
-        {{Kind::NotXml}, Phase::None, "</b></return>"},
-        {{Kind::NestedEntities}, Phase::None, nested},
         {{Kind::LongReply, {}, 1 << 20}, Phase::None, QByteArray(1 << 20, 'a')},
         {{Kind::RawReply, "HTTP/0.9 whatever"}, Phase::Reply, {}},
+        // Without a length and without a goodbye nobody knows whether that was all.
+        {{Kind::RawReply, "HTTP/1.0 200 OK\r\n\r\n<return>all?", 0, 0, true}, Phase::Reply, "<return>all?"},
         {{Kind::NoReply}, Phase::TimedOut, {}},
         {{Kind::StallReply, {}, 20}, Phase::TimedOut, {}},
         {{Kind::StallReply, {}, 200}, Phase::TimedOut, "<?xml"},
@@ -167,26 +149,6 @@ class tst_HTTPSecureSocket : public QObject {
       QVERIFY2(socket.failure().phase == phase, words + qPrintable(socket.failure().detail));
       QVERIFY2(part.isEmpty() ? page.isEmpty() : page.contains(part), words);
     }
-  }
-
-  void anEndWithoutGoodbyeIsNoEndOfAReply() {
-    const QTemporaryDir folder;
-    const Certificates::StoredIdentity identity = Certificates::make(folder.path());
-    VantryUtil::setExtraCaFile(identity.caFile);
-    ScriptedServer server([&](ScriptedServer::Peer& peer) {
-      SSL_CTX* const context = SSL_CTX_new(TLS_server_method());
-      SSL_CTX_use_certificate_file(context, qPrintable(folder.filePath(u"server.pem"_s)), SSL_FILETYPE_PEM);
-      SSL_CTX_use_PrivateKey_file(context, qPrintable(folder.filePath(u"server.key"_s)), SSL_FILETYPE_PEM);
-      SSL* const tls = SSL_new(context);
-      char request[4096];
-      if (SSL_set_fd(tls, peer.descriptor()) == 1 && SSL_accept(tls) == 1 && SSL_read(tls, request, sizeof request) > 0)
-        SSL_write(tls, "HTTP/1.0 200 OK\r\n\r\n<return>all of it?", 37);
-      SSL_free(tls);
-      SSL_CTX_free(context);
-    });
-    HTTPSecureSocket socket;
-    QCOMPARE(post(socket, u"https://localhost:%1/"_s.arg(server.port())), QByteArray("<return>all of it?"));
-    QCOMPARE(socket.failure().phase, Phase::Reply);
   }
 
   void proxies() {

@@ -1,5 +1,4 @@
 #include "service/SoapReply.h"
-#include "service/VantryUtil.h"
 #include "support/TestRunner.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -74,13 +73,6 @@ class tst_SoapReply : public QObject {
       QCOMPARE(outcome(page("OK"), {std::nullopt, u"err"_s}, phase), believed ? u"M=OK"_s : u"nil, as it was"_s);
       QCOMPARE(outcome(page("E009"), {std::nullopt, u"err"_s}, phase), u"nil, E009"_s);
     }
-  }
-
-  void errorCodesHaveWords() {
-    QStringList words;
-    for (const QString& code : {QString(), u"e010"_s, u"E999"_s, u"E010 "_s, u"Soap Error"_s})
-      words << VantryUtil::errToString(code);
-    QCOMPARE(words.join(u'|'), u"|No tracks found.|Unknown Error|Unknown Error|Unknown Error"_s);
   }
 };
 

@@ -12,66 +12,16 @@
 #include <QTimer>
 #include <functional>
 
-/// Presses a button of the next message box, and keeps its text.
-class BoxAnswer : public QObject {
- public:
-  explicit BoxAnswer(QMessageBox::StandardButton button) : m_button(button) {
-    connect(&m_timer, &QTimer::timeout, this, [this] { press(); });
-    m_timer.start(5);
-  }
-  [[nodiscard]] const QString& text() const { return m_text; }
-
- private:
-  void press() {
-    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (!box || !box->isVisible()) return;
-    m_timer.stop();
-    m_text = box->text();
-    box->button(m_button)->click();
-  }
-  QMessageBox::StandardButton m_button;
-  QTimer m_timer;
-  QString m_text;
-};
-
-/// Chooses a folder in the next dialog, or cancels it.
-class Choice : public QObject {
- public:
-  explicit Choice(QString folder) : m_folder(std::move(folder)) {
-    connect(&m_timer, &QTimer::timeout, this, [this] { choose(); });
-    m_timer.start(5);
-  }
-  [[nodiscard]] bool made() const { return m_made; }
-  QString title, prompt, directory, action;
-
- private:
-  void choose() {
-    auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-    if (!dialog || !dialog->isVisible()) return;
-    m_timer.stop();
-    title = dialog->windowTitle();
-    directory = dialog->directory().path();
-    action = dialog->labelText(QFileDialog::Accept);
-    prompt = dialog->findChild<QLabel*>(QStringLiteral("PromptText"))->text();
-    if (!m_folder.isEmpty()) dialog->setDirectory(m_folder);
-    static_cast<QDialog*>(dialog)->done(m_folder.isEmpty() ? QDialog::Rejected : QDialog::Accepted);
-    m_made = true;
-  }
-  QString m_folder;
-  QTimer m_timer;
-  bool m_made = false;
-};
-
 /// Does something in the next dialog of a kind, once, as soon as it is open.
 template <typename Dialog>
 class Inside : public QObject {
  public:
-  explicit Inside(std::function<void(Dialog&)> act) : m_act(std::move(act)) {
-    connect(&m_timer, &QTimer::timeout, this, [this] {
+  explicit Inside(std::function<void(Dialog&)> act) {
+    connect(&m_timer, &QTimer::timeout, this, [this, act = std::move(act)] {
       auto* const dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
       if (!dialog || !dialog->isVisible()) return;
       m_timer.stop();
-      m_act(*dialog);
+      act(*dialog);
       m_done = true;
     });
     m_timer.start(5);
@@ -79,9 +29,42 @@ class Inside : public QObject {
   [[nodiscard]] bool done() const { return m_done; }
 
  private:
-  std::function<void(Dialog&)> m_act;
   QTimer m_timer;
   bool m_done = false;
+};
+
+/// Presses a button of the next message box, and keeps its text.
+class BoxAnswer {
+ public:
+  explicit BoxAnswer(QMessageBox::StandardButton button)
+      : m_answer([this, button](QMessageBox& box) {
+          m_text = box.text();
+          box.button(button)->click();
+        }) {}
+  [[nodiscard]] const QString& text() const { return m_text; }
+
+ private:
+  QString m_text;
+  const Inside<QMessageBox> m_answer;
+};
+
+/// Chooses a folder in the next dialog, or cancels it.
+class Choice {
+ public:
+  explicit Choice(const QString& folder)
+      : m_choice([this, folder](QFileDialog& dialog) {
+          title = dialog.windowTitle();
+          directory = dialog.directory().path();
+          action = dialog.labelText(QFileDialog::Accept);
+          prompt = dialog.findChild<QLabel*>(QStringLiteral("PromptText"))->text();
+          if (!folder.isEmpty()) dialog.setDirectory(folder);
+          static_cast<QDialog&>(dialog).done(folder.isEmpty() ? QDialog::Rejected : QDialog::Accepted);
+        }) {}
+  [[nodiscard]] bool made() const { return m_choice.done(); }
+  QString title, prompt, directory, action;
+
+ private:
+  const Inside<QFileDialog> m_choice;
 };
 
 /// The longest that the event loop stood still, less what the machine kept the thread waiting for a processor.

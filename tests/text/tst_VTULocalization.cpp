@@ -4,6 +4,7 @@
 #include <QTranslator>
 
 #include "support/TestRunner.h"
+#include "text/Placeholders.h"
 #include "text/VTULocalization.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -35,13 +36,13 @@ class tst_VTULocalization : public QObject {
     QCOMPARE(span("VantryUtil.E002", "VantryUtil.EUnknownError"), 30);
   }
 
-  void textsEasyToGetWrong() {
-    QCOMPARE(klSureYouWantToQuit(),
-             u"Are you sure you want to quit?\n\nUploads will stop processing when the application quit."_s);
-    QCOMPARE(VantryUtil::E008(),
-             u"Requested track not found. For auto-recognition mode check settings -  both "
-             "application and website require a perfect match."_s);
-    QCOMPARE(VantryUtil::E023(), u"Control Strip not foundControl Strip not found"_s);
+  void placeholdersAreFilled() {
+    const std::tuple<QString, QStringList, QString> rows[] = {
+        {u"$2, $1, $2"_s, {u"a"_s, u"b"_s}, u"b, a, b"_s},  // a translation may turn the order round
+        {u"$1-$2"_s, {u"$2$1"_s, u"b"_s}, u"$2$1-b"_s},     // a value is not filled again
+        {u"$11 $3"_s, {u"$"_s}, u"$1 $3"_s},                // nor joined to the next digit
+        {u"$0 $ $x $$1 [$2] $"_s, {u"a"_s, {}}, u"$0 $ $x $a [] $"_s}};
+    for (const auto& [text, values, filled] : rows) QCOMPARE(fillPlaceholders(text, values), filled);
   }
 
   void aTableReplacesOnlyWhatItHolds() {

@@ -1,8 +1,0 @@
-#include <QCoreApplication>
-
-#include "support/TestRunner.h"
-
-int main(int argc, char** argv) {
-  QCoreApplication application(argc, argv);
-  return TestRunner::runAllTests(argc, argv);
-}
