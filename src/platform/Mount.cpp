@@ -106,6 +106,8 @@ int codeInWords(const char* message) {
     if (g_str_has_suffix(message, g_strerror(number))) return code;
   for (const int number : {EAI_NONAME, EAI_AGAIN, EAI_NODATA, EAI_FAIL})
     if (g_str_has_suffix(message, ::gai_strerror(number))) return MountError::Unreachable;
+  // Another key than the one that is known of this host, in the service's own words.
+  if (g_str_equal(message, g_dgettext("gvfs", "Host key verification failed"))) return MountError::Question;
   return EIO;
 }
 

@@ -21,7 +21,7 @@ struct MountRequest {
 namespace MountError {
 constexpr int NoSession = ENOTCONN;  ///< no session bus, so no mount service
 constexpr int LoginRefused = EACCES;
-constexpr int Question = EPERM;            ///< something only a person can confirm, as a host key never seen
+constexpr int Question = EPERM;            ///< something only a person can confirm, as a host key never seen or changed
 constexpr int Unreachable = EHOSTUNREACH;  ///< nobody answers at that address
 constexpr int NotThere = ENOENT;           ///< the server has no such share or folder
 constexpr int TimedOut = ETIMEDOUT;
