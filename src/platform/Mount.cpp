@@ -4,10 +4,16 @@
 #include "platform/Mount.h"
 
 #include <dirent.h>
+#include <netdb.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <chrono>
+#include <condition_variable>
 #include <memory>
+#include <mutex>
+#include <system_error>
+#include <thread>
 
 #include "platform/FileCipher.h"
 #include "platform/System.h"
@@ -17,9 +23,12 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 using SteadyClock = std::chrono::steady_clock;
-constexpr guint LookEveryMs = 100;
+constexpr std::chrono::milliseconds LookEvery(100);
 constexpr auto CancelLimit = std::chrono::seconds(5);  // for the service to say that it has given up
 constexpr auto FolderLimit = std::chrono::seconds(3);  // from the mount to its folder's being there
+constexpr int MaxUnderWay = 8;                         // with those that were left behind
+
+std::atomic<int> underWay{0};
 
 struct Unref {
   void operator()(gpointer object) const { g_object_unref(object); }
@@ -27,18 +36,29 @@ struct Unref {
 template <typename T>
 using Owned = std::unique_ptr<T, Unref>;
 
-/// One mounting. Held by the caller and by the callback, which may come after the caller has left.
+/// One mounting: the caller waits for it with a limit, and a thread of its own does it. The mount service's library
+/// waits in many places for the bus, for the service and for the folder, and few of them can be given a limit.
 struct Mounting {
-  QByteArray login, password;
-  bool asked = false;
-  int refusal = 0;  // why we broke it off, in place of what the service makes of it
-  bool ended = false;
-  int error = 0;
-
-  Mounting() = default;
+  Mounting() : cancellable(g_cancellable_new()) {}
   ~Mounting() { wipe(password); }
   Mounting(const Mounting&) = delete;
   Mounting& operator=(const Mounting&) = delete;
+
+  QByteArray url, login, password;  // these don't change once the thread runs
+  const Owned<GCancellable> cancellable;
+
+  // The mounting thread's own.
+  bool asked = false;
+  int refusal = 0;  // why we broke it off, in place of what the service makes of it
+  bool answered = false;
+  int error = 0;
+
+  std::mutex mutex;  // guards all below
+  std::condition_variable changed;
+  bool haveSession = false;
+  bool ended = false;
+  int errorCode = 0;
+  QByteArray folder;
 };
 using MountingPointer = std::shared_ptr<Mounting>;
 
@@ -59,7 +79,7 @@ class OwnContext {
   /// Runs what is due until `done` or until `deadline`; wakes ten times a second.
   template <typename Done>
   void runUntil(SteadyClock::time_point deadline, const Done& done) const {
-    GSource* const beat = g_timeout_source_new(LookEveryMs);
+    GSource* const beat = g_timeout_source_new(static_cast<guint>(LookEvery.count()));
     g_source_set_callback(
         beat, [](gpointer) -> gboolean { return G_SOURCE_CONTINUE; }, nullptr, nullptr);
     g_source_attach(beat, m_context);
@@ -84,10 +104,15 @@ int codeInWords(const char* message) {
       {EACCES, MountError::LoginRefused},      {EPERM, MountError::LoginRefused}};
   for (const auto& [number, code] : known)
     if (g_str_has_suffix(message, g_strerror(number))) return code;
+  for (const int number : {EAI_NONAME, EAI_AGAIN, EAI_NODATA, EAI_FAIL})
+    if (g_str_has_suffix(message, ::gai_strerror(number))) return MountError::Unreachable;
+  // Another key than the one that is known of this host, in the service's own words.
+  if (g_str_equal(message, g_dgettext("gvfs", "Host key verification failed"))) return MountError::Question;
   return EIO;
 }
 
 int codeOf(const GError* error) {
+  if (error->domain == G_RESOLVER_ERROR) return MountError::Unreachable;
   if (error->domain != G_IO_ERROR) return error->domain == G_DBUS_ERROR ? MountError::NoSession : EIO;
   switch (error->code) {
     case G_IO_ERROR_ALREADY_MOUNTED:
@@ -167,11 +192,11 @@ void mounted(GObject* file, GAsyncResult* result, gpointer data) {
   if (!g_file_mount_enclosing_volume_finish(G_FILE(file), result, &error)) {
     (*mounting)->error = codeOf(error);
     // The service's words name the address and never the login.
-    if ((*mounting)->error != 0)
+    if ((*mounting)->error != 0 && !g_cancellable_is_cancelled((*mounting)->cancellable.get()))
       System::DebugLog(u"Vantry Uploader - mounting failed: "_s + QString::fromUtf8(error->message));
     g_clear_error(&error);
   }
-  (*mounting)->ended = true;
+  (*mounting)->answered = true;
 }
 
 void releaseMounting(gpointer data, GClosure*) { delete static_cast<MountingPointer*>(data); }
@@ -206,6 +231,79 @@ QByteArray localPath(GFile* file) {
   return QByteArray(path.get());
 }
 
+/// Waits for the folder, which appears a moment behind the mount, and gives an error.
+int findFolder(const OwnContext& context, GFile* file, GCancellable* cancellable, QByteArray& path) {
+  int error = 0;
+  const auto there = [&] {
+    path = localPath(file);
+    if (path.isEmpty()) return false;
+    // Listed and not only looked at: what is known of an earlier mount at this place may be told for a second.
+    const std::unique_ptr<DIR, int (*)(DIR*)> folder(::opendir(path.constData()), &::closedir);
+    errno = folder ? 0 : errno;
+    if (folder) (void)::readdir(folder.get());  // an empty folder gives nothing, and no error
+    error = errno;
+    return error == 0;
+  };
+  context.runUntil(SteadyClock::now() + FolderLimit,
+                   [&] { return there() || g_cancellable_is_cancelled(cancellable); });
+  if (path.isEmpty()) return MountError::NoFolder;
+  if (error == 0) return 0;
+  if (error == ENOENT) return MountError::NotThere;
+  return error == EACCES ? MountError::LoginRefused : MountError::Unreachable;
+}
+
+/// What the thread does; ends when it is done or soon after its being cancelled, unless something hangs.
+int mountHere(const MountingPointer& mounting, QByteArray& folder) {
+  const OwnContext context;
+  GCancellable* const cancellable = mounting->cancellable.get();
+  if (!haveSession(cancellable)) return MountError::NoSession;
+  {
+    const std::lock_guard lock(mounting->mutex);
+    mounting->haveSession = true;
+  }
+  const Owned<GFile> file(g_file_new_for_uri(mounting->url.constData()));
+  // The service "mounts" pages of the web as well, and never shows them.
+  if (g_file_has_uri_scheme(file.get(), "http") || g_file_has_uri_scheme(file.get(), "https"))
+    return MountError::NotSupported;
+  {
+    const Owned<GMountOperation> operation = makeOperation(mounting);
+    g_file_mount_enclosing_volume(file.get(), G_MOUNT_MOUNT_NONE, operation.get(), cancellable, &mounted,
+                                  new MountingPointer(mounting));
+    context.runUntil(SteadyClock::time_point::max(), [&] { return mounting->answered; });
+  }
+  if (mounting->error != 0) return mounting->refusal != 0 ? mounting->refusal : mounting->error;
+  return findFolder(context, file.get(), cancellable, folder);
+}
+
+void mountOnThread(const MountingPointer& mounting) {
+  System::nameThisThread("mount");
+  QByteArray folder;
+  const int errorCode = mountHere(mounting, folder);
+  {
+    const std::lock_guard lock(mounting->mutex);
+    mounting->errorCode = errorCode;
+    mounting->folder = folder;
+    mounting->ended = true;
+  }
+  mounting->changed.notify_all();
+  --underWay;
+}
+
+/// False when the system gives no thread, or too many hang.
+bool start(const MountingPointer& mounting) {
+  if (++underWay > MaxUnderWay) {
+    --underWay;
+    return false;
+  }
+  try {
+    std::thread(mountOnThread, mounting).detach();
+  } catch (const std::system_error&) {
+    --underWay;
+    return false;
+  }
+  return true;
+}
+
 }  // namespace
 
 QString shareForDisplay(const QString& url) {
@@ -218,50 +316,28 @@ QString shareForDisplay(const QString& url) {
 
 QString mountShare(const MountRequest& request, int& errorCode, int limitMs) {
   const auto deadline = SteadyClock::now() + std::chrono::milliseconds(limitMs);
-  const OwnContext context;
-  const Owned<GCancellable> cancellable(g_cancellable_new());
-  errorCode = MountError::NoSession;
-  if (!haveSession(cancellable.get())) return {};
-
   const auto mounting = std::make_shared<Mounting>();
+  mounting->url = QString(request.url).replace(u' ', u"%20"_s).toUtf8();
   mounting->login = request.userName.toUtf8();
   mounting->password = request.password.toUtf8();
-  const Owned<GFile> file(g_file_new_for_uri(QString(request.url).replace(u' ', u"%20"_s).toUtf8().constData()));
-  {
-    const Owned<GMountOperation> operation = makeOperation(mounting);
-    g_file_mount_enclosing_volume(file.get(), G_MOUNT_MOUNT_NONE, operation.get(), cancellable.get(), &mounted,
-                                  new MountingPointer(mounting));
-    const auto cancelled = [&request] { return request.cancelled && request.cancelled(); };
-    context.runUntil(deadline, [&] { return mounting->ended || cancelled(); });
-    if (!mounting->ended) {
-      mounting->refusal = cancelled() ? MountError::Cancelled : MountError::TimedOut;
-      g_cancellable_cancel(cancellable.get());
-      context.runUntil(SteadyClock::now() + CancelLimit, [&] { return mounting->ended; });
-    }
-  }
-  errorCode = mounting->error != 0 || !mounting->ended ? mounting->refusal : 0;
-  if (errorCode == 0) errorCode = mounting->error;
-  if (errorCode != 0) return {};
+  errorCode = MountError::TimedOut;
+  if (!start(mounting)) return {};
 
-  // The folder appears a moment behind the mount.
-  QByteArray path;
-  int error = 0;
-  const auto there = [&] {
-    path = localPath(file.get());
-    if (path.isEmpty()) return false;
-    // Listed and not only looked at: what is known of an earlier mount at this place may be told for a second.
-    const std::unique_ptr<DIR, int (*)(DIR*)> folder(::opendir(path.constData()), &::closedir);
-    errno = folder ? 0 : errno;
-    if (folder) (void)::readdir(folder.get());  // an empty folder gives nothing, and no error
-    error = errno;
-    return error == 0;
-  };
-  context.runUntil(SteadyClock::now() + FolderLimit, there);
-  if (path.isEmpty())
-    errorCode = MountError::NoFolder;
-  else if (error == ENOENT)
-    errorCode = MountError::NotThere;
-  else if (error != 0)
-    errorCode = error == EACCES ? MountError::LoginRefused : MountError::Unreachable;
-  return errorCode == 0 ? QString::fromUtf8(path) : QString();
+  std::unique_lock lock(mounting->mutex);
+  const auto ended = [&] { return mounting->ended; };
+  int givenUp = 0;
+  while (givenUp == 0 && !mounting->changed.wait_for(lock, LookEvery, ended)) {
+    if (request.cancelled && request.cancelled())
+      givenUp = MountError::Cancelled;
+    else if (SteadyClock::now() >= deadline)
+      givenUp = mounting->haveSession ? MountError::TimedOut : MountError::NoSession;
+  }
+  if (givenUp != 0) {
+    lock.unlock();  // what is told of the cancelling at once may come from this thread
+    g_cancellable_cancel(mounting->cancellable.get());
+    lock.lock();
+    mounting->changed.wait_for(lock, CancelLimit, ended);
+  }
+  errorCode = mounting->ended && (mounting->errorCode == 0 || givenUp == 0) ? mounting->errorCode : givenUp;
+  return errorCode == 0 ? QString::fromUtf8(mounting->folder) : QString();
 }

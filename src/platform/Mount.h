@@ -21,7 +21,7 @@ struct MountRequest {
 namespace MountError {
 constexpr int NoSession = ENOTCONN;  ///< no session bus, so no mount service
 constexpr int LoginRefused = EACCES;
-constexpr int Question = EPERM;            ///< something only a person can confirm, as a host key never seen
+constexpr int Question = EPERM;            ///< something only a person can confirm, as a host key never seen or changed
 constexpr int Unreachable = EHOSTUNREACH;  ///< nobody answers at that address
 constexpr int NotThere = ENOENT;           ///< the server has no such share or folder
 constexpr int TimedOut = ETIMEDOUT;
@@ -34,6 +34,7 @@ constexpr int NoFolder = ENODEV;               ///< mounted, but not shown as a 
 [[nodiscard]] QString shareForDisplay(const QString& url);
 
 /// Mounts a share without asking anybody and gives its folder as a local path, or the empty string and an errno (see
-/// MountError). A share that is mounted already is a success. Blocks for `limitMs` at most, then gives up with
-/// ETIMEDOUT. The login goes to the mount service over the session bus, and nowhere else. Any thread.
+/// MountError). A share that is mounted already is a success. Blocks for `limitMs` at most and 5 s more for the service
+/// to give up, then fails with ETIMEDOUT, or with ENOTCONN where the bus itself is silent; what hangs is left behind on
+/// a thread of its own. The login goes to the mount service over the session bus, and nowhere else. Any thread.
 [[nodiscard]] QString mountShare(const MountRequest& request, int& errorCode, int limitMs = 60'000);

@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QTest>
+#include <cstring>
 #include <thread>
 
 #include "engine/EngineActivity.h"
@@ -147,6 +148,28 @@ class tst_Shares : public QObject {
     task->updateStatus();
     QVERIFY(mount(bare));
     QVERIFY(!task->PrepareToUpload() && task->Status == UploaderTask::Fault && QDir(bare).isEmpty());
+  }
+
+  void aCopyIsNotWrittenWhereItsShareWas() {
+    EngineBench bench;
+    const QTemporaryDir share(u"/dev/shm/share-XXXXXX"_s);  // another file system than the home's
+    const QString link = bench.home.path(u"link"_s), bare = bench.home.makeFolder(u"bare"_s);
+    QVERIFY(QFile::link(share.path(), link));
+    const QString input = bench.drop(u"a.txt"_s);
+    const TaskPointer task = bench.makeTask();
+    task->outputFolderPath = link;
+    task->DeleteAfterSave = true;
+    bench.service.whenBodyReaches(1, [&] { QVERIFY(QFile::remove(link) && QFile::link(bare, link)); });
+    EngineBench::process(*task);
+    QCOMPARE(bench.received(), QStringList{u"a.txt"_s});
+    QVERIFY(QDir(bare).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+    QVERIFY(QFile::exists(input));
+    QVERIFY2(bench.notes().value(0).contains(QString::fromLocal8Bit(strerror(ENOTCONN))),
+             qPrintable(bench.notes().value(0)));
+    // What the look before it has remembered, as the next start reads it.
+    bench.restart();
+    const QByteArray point = MountTable::present().entryOf(share.path().toUtf8()).point;
+    QCOMPARE(VantryUtil::prefs->StringValue(u"mountpoint "_s + link).toUtf8(), point);
   }
 
   void aMountThatTakesLongHoldsUpItsOwnTaskAlone() {

@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <sys/prctl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QDir>
@@ -61,7 +62,10 @@ PrivateSession::~PrivateSession() {
 QString PrivateSession::missing() {
   const int fuse = ::open("/dev/fuse", O_RDWR | O_CLOEXEC);
   if (fuse < 0) return u"/dev/fuse can't be opened"_s;
+  struct stat info {};
+  const bool device = ::fstat(fuse, &info) == 0 && S_ISCHR(info.st_mode);
   ::close(fuse);
+  if (!device) return u"/dev/fuse is no device"_s;
   for (const QString& program : {u"smbd"_s, u"dbus-daemon"_s, u"fusermount3"_s})
     if (QStandardPaths::findExecutable(program).isEmpty() &&
         QStandardPaths::findExecutable(program, {u"/usr/sbin"_s}).isEmpty())

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QLocalServer>
 #include <QTest>
 #include <QUrl>
 #include <thread>
@@ -37,6 +38,7 @@ class tst_Mount : public QObject {
     QTest::newRow("unknown server") << u"host"_s << MountError::Unreachable;
     QTest::newRow("no such share") << u"share"_s << MountError::NotThere;
     QTest::newRow("a kind of address that nothing mounts") << u"scheme"_s << MountError::NotSupported;
+    QTest::newRow("an address of the web") << u"web"_s << MountError::NotSupported;
     QTest::newRow("no session bus") << u"bus"_s << MountError::NoSession;
   }
   void whyNothingIsMounted() {
@@ -48,6 +50,7 @@ class tst_Mount : public QObject {
     if (change == u"share"_s) asked.url += u"-not"_s;
     if (change == u"host"_s) asked.url.replace(u"127.0.0.1"_s, u"no-such-host.invalid"_s);
     if (change == u"scheme"_s) asked.url.replace(u"smb:"_s, u"gopher:"_s);
+    if (change == u"web"_s) asked.url.replace(u"smb:"_s, u"http:"_s);
     const QByteArray bus = qgetenv("DBUS_SESSION_BUS_ADDRESS");
     if (change == u"bus"_s) qunsetenv("DBUS_SESSION_BUS_ADDRESS");
     int error = 0;
@@ -72,6 +75,33 @@ class tst_Mount : public QObject {
     QCOMPARE(error, MountError::Cancelled);
     m_server.thaw();
     m_server.stop();
+  }
+
+  void aFolderThatHangsBehindItsMountIsGivenUp() {
+    m_server.start();
+    int error = 0;
+    QVERIFY(!mountShare(request(), error).isEmpty());
+    m_server.freeze();
+    QCOMPARE(mountShare(request(), error, 1500), QString());
+    QCOMPARE(error, MountError::TimedOut);
+    m_server.thaw();
+    PrivateSession::unmount(request().url);
+    m_server.stop();
+  }
+
+  void aSessionBusThatNeverAnswersIsGivenUp() {
+    const QTemporaryDir dir;
+    QLocalServer silent;
+    QVERIFY(silent.listen(dir.filePath(u"bus"_s)));
+    QProcess other;  // this program has met its bus
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"unix:path="_s + silent.fullServerName());
+    other.setProcessEnvironment(environment);
+    bindChild(other);
+    other.start(QCoreApplication::applicationFilePath(), {u"mount-within"_s, u"1500"_s, request().url});
+    QVERIFY(silent.waitForNewConnection(20'000));
+    QVERIFY(other.waitForFinished(20'000));
+    QCOMPARE(other.readAllStandardOutput(), QByteArray::number(MountError::NoSession));
   }
 
   void aGoodLoginGivesAFolder_data() {
