@@ -44,7 +44,7 @@ bool mayPass(int error) {
 
 class Batch {
  public:
-  explicit Batch(UploaderTask& task) : m_task(task) {}
+  Batch(UploaderTask& task, quint64 loginNumber) : m_task(task), m_loginNumber(loginNumber) {}
   void run() {
     try {
       sendAll();
@@ -81,6 +81,7 @@ class Batch {
   void keep(std::vector<SentFile>& sent);
 
   UploaderTask& m_task;
+  const quint64 m_loginNumber;
   std::atomic<bool> m_outputLost{false};
   SpareConnection m_spare;
   std::vector<ScannedFile> m_kept;  // of the keeping thread until settle() has waited for it
@@ -166,9 +167,11 @@ Batch::Sent Batch::send(SentFile& file, bool anotherFollows) {
   watch.progress = setEngineProgress;
   watch.spare = &m_spare;
   watch.anotherFollows = anotherFollows;
+  watch.loginNumber = m_loginNumber;
   const bool instrument = m_task.Warden.compare(u"Instrument"_s, Qt::CaseInsensitive) == 0;
   const auto reply = VantryUtil::SendFile(file.newName, m_task.Track, file.file, instrument, file.error, watch);
 
+  if (watch.otherLogin) return Sent::Stopped;
   if (!reply && (UploadThread::stopping() || watch.failure.phase == HttpFailure::Phase::Stopped)) return Sent::Stopped;
   if (!reply && watch.fileChanged) return versionOf(file.file) ? Sent::Moving : missing(file.file);
   if (!reply && watch.failure.phase == HttpFailure::Phase::Source) {
@@ -189,7 +192,9 @@ Batch::Sent Batch::send(SentFile& file, bool anotherFollows) {
 
 }  // namespace
 
-void UploaderTask::ProcessFiles() {
+void UploaderTask::ProcessFiles() { ProcessFiles(VantryUtil::account().loginNumber); }
+
+void UploaderTask::ProcessFiles(quint64 loginNumber) {
   const BusyFlag busy(*this);
-  Batch(*this).run();
+  Batch(*this, loginNumber).run();
 }

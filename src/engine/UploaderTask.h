@@ -88,8 +88,11 @@ class UploaderTask {
   void TryAutoMount(bool input);
   /// Makes the error folder. False when a folder is missing or can't be written; Status is Fault then if a share went.
   [[nodiscard]] bool PrepareToUpload();
-  /// Sends all that is due, with a log row for each file, and stores the new date limit.
+  /// Sends all that is due, with a log row for each file, and stores the new date limit. Once another login is in
+  /// force than the one at the beginning, or that of `loginNumber` (Account), no further file is sent: the batch is
+  /// broken off, and what is left waits for the next one.
   void ProcessFiles();
+  void ProcessFiles(quint64 loginNumber);
 
   /// The pause after a failed mount, common to all tasks: true until 36000 ticks have passed. Any thread.
   [[nodiscard]] static bool triedAutoMount();
