@@ -25,7 +25,7 @@ class BusyFlag {
  public:
   explicit BusyFlag(UploaderTask& task) : m_task(task) { m_task.Busy = true; }
   ~BusyFlag() {
-    clearEngineActivity(m_task.Name);
+    tellBatchEnded(m_task);
     m_task.Busy = false;
   }
   BusyFlag(const BusyFlag&) = delete;
@@ -161,10 +161,10 @@ Batch::Sent Batch::send(SentFile& file, bool anotherFollows) {
   if (m_task.leftBehind) return Sent::Stopped;
   if (*version != file.scanned.version) return Sent::Moving;
 
-  setEngineActivity({true, m_task.Name, file.file.Name(), 0, version->size});
+  tellSending(m_task, file.file.Name(), version->size);
   VantryUtil::SendFileWatch watch;
   watch.version = *version;
-  watch.progress = setEngineProgress;
+  watch.progress = [this](qint64 sent, qint64 total) { tellProgress(m_task, sent, total); };
   watch.spare = &m_spare;
   watch.anotherFollows = anotherFollows;
   watch.loginNumber = m_loginNumber;

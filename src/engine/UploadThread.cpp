@@ -101,7 +101,7 @@ void processTasks(TaskPointer& task) {
       Problems::clear(Problem::Kind::RunFailed, task->Name);
     } else {
       task->Status = UploaderTask::Fault;
-      setEngineActivity({});
+      clearEngineActivity();
     }
     if (!UploadThread::Enabled) return;
   }

@@ -167,12 +167,12 @@ class UploaderTask {
   std::optional<RegEx> exclusionRegEx;
   [[nodiscard]] FolderScanResult listInputFolder(double above);
   BatchLedger& readLedger();
-  [[nodiscard]] bool clearedMeanwhile() const;
   void storeLedger(std::optional<double> limit);
   mutable std::mutex m_ledgerMutex;  // guards the three below
   BatchLedger m_ledger;
   bool m_ledgerRead = false;
-  bool m_ledgerStored = false;  // by this object
+  quint64 m_ledgerClearings = 0;  // of the limit, when the ledger was last asked
+  quint64 m_clearings = 0;        // of the limit, when dateLimit was read
   bool m_outputSwept = false;
   std::optional<quint64> m_inputDevice, m_outputDevice;  // at the last good look
 };

@@ -353,6 +353,29 @@ class tst_Pipeline : public QObject {
     QCOMPARE(bench.notes(), QStringList(3, Saved));
   }
 
+  void aLimitClearedInMidBatchStaysCleared() {
+    EngineBench bench;
+    const TaskPointer task = bench.makeTask();
+    UploaderTask::addTask(task);
+    for (const int already : {0, 2}) {  // the first batch, before any limit was stored, and a later one
+      bench.drop(u"%1.txt"_s.arg(already));
+      bench.service.hold();
+      UploadThread::Start();
+      QVERIFY(bench.service.waitForHeld(1, 10'000));
+      {
+        const UploadHold hold;  // as the editor's
+        bench.makeTask()->updateDateLimit(true);
+        bench.service.release();
+        QTRY_VERIFY(!UploadThread::ProcessingNow());
+      }
+      QCOMPARE(bench.received().size(), already + 1);
+      bench.clock.advance(4);
+      EngineBench::process(*task);
+      QCOMPARE(bench.received().size(), already == 0 ? 2 : 5);
+      bench.clock.advance(100);
+    }
+  }
+
   void clearingTheLimitSendsTheFolderAgain() {
     EngineBench bench;
     bench.drop(u"a.txt"_s);

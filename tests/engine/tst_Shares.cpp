@@ -94,6 +94,21 @@ class tst_Shares : public QObject {
     QCOMPARE(bench.files(u"out"_s), (QStringList{u"a1.txt"_s, u"a2.txt"_s, u"c1.txt"_s}));
   }
 
+  void aBatchLeftBehindTellsNothingAtAnotherOnesTurn() {
+    UploaderTask behind, present;
+    behind.Name = present.Name = u"a"_s;
+    behind.leftBehind = true;
+    tellSending(present, u"1.txt"_s, 10);
+    tellProgress(present, 4, 10);
+    tellSending(behind, u"2.txt"_s, 20);
+    tellProgress(behind, 20, 20);
+    tellBatchEnded(behind);
+    const EngineActivity activity = engineActivity();
+    QCOMPARE(u"%1 %2 of %3"_s.arg(activity.file).arg(activity.sentBytes).arg(activity.totalBytes), u"1.txt 4 of 10"_s);
+    tellBatchEnded(present);
+    QVERIFY(!engineActivity().sending);
+  }
+
   void aFolderThatGoesInMidBatchCostsNoFileAndHoldsUpNobody_data() {
     QTest::addColumn<QString>("folder");
     QTest::newRow("input") << u"in"_s;
