@@ -13,9 +13,10 @@
 namespace {
 
 struct Gate {
-  std::mutex mutex;  // guards the two below
+  std::mutex mutex;  // guards the three below
   std::condition_variable changed;
   bool hangs = false;
+  HangingShare::Calls calls = HangingShare::Calls::All;
   int waiting = 0;
 };
 
@@ -24,9 +25,10 @@ Gate& gate() {
   return *instance;
 }
 
-void pass(const char* path) {
+void pass(const char* path, HangingShare::Calls kind) {
   if (!path || !std::strstr(path, "hanging-share")) return;
   std::unique_lock lock(gate().mutex);
+  if (gate().calls != HangingShare::Calls::All && gate().calls != kind) return;
   ++gate().waiting;
   gate().changed.wait(lock, [] { return !gate().hangs; });
   --gate().waiting;
@@ -35,9 +37,10 @@ void pass(const char* path) {
 
 }  // namespace
 
-HangingShare::HangingShare() {
+HangingShare::HangingShare(Calls calls) {
   const std::lock_guard lock(gate().mutex);
   gate().hangs = true;
+  gate().calls = calls;
 }
 
 HangingShare::~HangingShare() {
@@ -54,7 +57,7 @@ int HangingShare::waiting() {
 
 // The program's own definitions come before the C library's.
 extern "C" int stat(const char* path, struct stat* info) noexcept {
-  pass(path);
+  pass(path, HangingShare::Calls::All);
   return ::fstatat(AT_FDCWD, path, info, 0);
 }
 
@@ -63,6 +66,6 @@ extern "C" int open(const char* path, int flags, ...) {
   va_start(arguments, flags);
   const mode_t mode = (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(arguments, mode_t) : 0;
   va_end(arguments);
-  pass(path);
+  pass(path, HangingShare::Calls::Opening);
   return ::openat(AT_FDCWD, path, flags, mode);
 }
