@@ -103,8 +103,13 @@ BatchLedger& UploaderTask::readLedger() {
 }
 
 void UploaderTask::dealtWith(const ScannedFile& scanned) {
-  const std::lock_guard lock(m_ledgerMutex);
-  readLedger().dealtWith(scanned);
+  TaskPointer heir;
+  {
+    const std::lock_guard lock(m_ledgerMutex);
+    readLedger().dealtWith(scanned);
+    heir = m_heir;
+  }
+  if (heir) heir->dealtWith(scanned);
 }
 
 void UploaderTask::foundMoving(const ScannedFile& scanned) {
@@ -142,6 +147,7 @@ void UploaderTask::storeLedger(std::optional<double> limit) {
   if (!VantryUtil::prefs) return;
   {
     const std::lock_guard lock(m_ledgerMutex);
+    if (m_heir) return;  // it knows more by now
     const std::lock_guard storing(memoryMutex);
     const DueLimit stored = lockedDueLimit(Name);
     if (stored.clearings != m_clearings || stored.seconds < dateLimit) return;  // cleared: all is due again

@@ -64,9 +64,7 @@ class Batch {
   }
   /// False when the batch was broken off: the file counts as not dealt with.
   bool process(const ScannedFile& scanned, bool anotherFollows);
-  /// Waits until all that was sent is kept, and tells the ledger.
-  void tellLedger();
-  /// The same; throws what a keeping threw.
+  /// Waits until all that was sent is kept; throws what a keeping threw.
   void settle();
   /// Ends the batch before its time: what was sent is remembered, and the rest stays due.
   void breakOff();
@@ -84,8 +82,7 @@ class Batch {
   const quint64 m_loginNumber;
   std::atomic<bool> m_outputLost{false};
   SpareConnection m_spare;
-  std::vector<ScannedFile> m_kept;  // of the keeping thread until settle() has waited for it
-  bool m_dealtWith = false;         // with any file
+  std::atomic<bool> m_dealtWith{false};  // with any file
   // Ends before what it uses.
   OrderedWork<SentFile> m_keeping{"upload-keep", [this](std::vector<SentFile>& sent) { keep(sent); }};
 };
@@ -110,22 +107,14 @@ void Batch::sendAll() {
   m_task.closeBatch(limit);
 }
 
-void Batch::tellLedger() {
-  m_keeping.wait();
-  for (const ScannedFile& scanned : std::exchange(m_kept, {})) {
-    m_task.dealtWith(scanned);
-    m_dealtWith = true;
-  }
-}
-
 void Batch::settle() {
-  tellLedger();
+  m_keeping.wait();
   m_keeping.throwFailure();
 }
 
 void Batch::breakOff() {
-  tellLedger();
-  if (std::exchange(m_dealtWith, false)) m_task.keepLedger();
+  m_keeping.wait();
+  if (m_dealtWith.exchange(false)) m_task.keepLedger();
 }
 
 bool Batch::process(const ScannedFile& scanned, bool anotherFollows) {
@@ -150,7 +139,8 @@ void Batch::keep(std::vector<SentFile>& sent) {
   const HeldUpCalls::Count counted(m_task.keepingCalls);
   const std::vector<VantryUtil::LogEntry> entries = keepSent(m_task, sent);
   if (!m_task.outputIsThere()) m_outputLost = true;
-  for (const SentFile& file : sent) m_kept.push_back(file.scanned);
+  for (const SentFile& file : sent) m_task.dealtWith(file.scanned);
+  m_dealtWith = true;
   VantryUtil::LogEntry::writeAll(entries);
 }
 

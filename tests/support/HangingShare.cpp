@@ -13,9 +13,10 @@
 namespace {
 
 struct Gate {
-  std::mutex mutex;  // guards the three below
+  std::mutex mutex;  // guards the four below
   std::condition_variable changed;
-  bool hangs = false;
+  bool hangs = false;     // new calls
+  bool released = false;  // those that hang
   HangingShare::Calls calls = HangingShare::Calls::All;
   int waiting = 0;
 };
@@ -28,9 +29,10 @@ Gate& gate() {
 void pass(const char* path, HangingShare::Calls kind) {
   if (!path || !std::strstr(path, "hanging-share")) return;
   std::unique_lock lock(gate().mutex);
+  if (!gate().hangs) return;
   if (gate().calls != HangingShare::Calls::All && gate().calls != kind) return;
   ++gate().waiting;
-  gate().changed.wait(lock, [] { return !gate().hangs; });
+  gate().changed.wait(lock, [] { return gate().released; });
   --gate().waiting;
   gate().changed.notify_all();
 }
@@ -40,14 +42,21 @@ void pass(const char* path, HangingShare::Calls kind) {
 HangingShare::HangingShare(Calls calls) {
   const std::lock_guard lock(gate().mutex);
   gate().hangs = true;
+  gate().released = false;
   gate().calls = calls;
 }
 
 HangingShare::~HangingShare() {
   std::unique_lock lock(gate().mutex);
   gate().hangs = false;
+  gate().released = true;
   gate().changed.notify_all();
   gate().changed.wait(lock, [] { return gate().waiting == 0; });
+}
+
+void HangingShare::answerNewCalls() {
+  const std::lock_guard lock(gate().mutex);
+  gate().hangs = false;
 }
 
 int HangingShare::waiting() {

@@ -11,6 +11,8 @@ class HangingShare {
   ~HangingShare();
   HangingShare(const HangingShare&) = delete;
   HangingShare& operator=(const HangingShare&) = delete;
+  /// New calls are answered, as by a share that was mounted anew; those that hang stay so for the object's life.
+  static void answerNewCalls();
   /// Calls that hang at this moment.
   [[nodiscard]] static int waiting();
 };
