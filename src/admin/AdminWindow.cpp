@@ -129,14 +129,11 @@ void AdminWindow::OKAdminButton_Action() {
   DictionaryFile& prefs = *VantryUtil::prefs;
   const QString login = SoapLogin->text().trimmed(), password = soapPassword->text().trimmed();
   const VantryUtil::ProxySetting proxy = proxyOfFields(TheProxyAddress->text(), TheProxyPort->text());
-  const VantryUtil::ProxySetting before = VantryUtil::proxy();
-  m_outcome.otherLogin = login != prefs.StringValue(u"SoapLogin"_s).trimmed();
-  m_outcome.connectionChanged = m_outcome.otherLogin || password != prefs.StringValue(u"SoapPassword"_s).trimmed() ||
-                                proxy.address != before.address.trimmed() || proxy.port != before.port;
+  const VantryUtil::Account before = VantryUtil::account();
+  m_outcome.otherLogin = VantryUtil::changeAccount(login, password, proxy);
+  m_outcome.connectionChanged = m_outcome.otherLogin || password != before.password ||
+                                proxy.address != before.proxy.address.trimmed() || proxy.port != before.proxy.port;
 
-  prefs.setStringValue(u"SoapLogin"_s, login);
-  prefs.setStringValue(u"SoapPassword"_s, password);
-  VantryUtil::setProxy(proxy);
   prefs.setStringValue(u"ProxyAddress"_s, proxy.address);
   prefs.setIntegerValue(u"ProxyPort"_s, portOf(TheProxyPort->text()));
   const bool locked = LockTaskListButton->isChecked();

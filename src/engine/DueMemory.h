@@ -5,5 +5,14 @@
 
 /// The date limit of the tasks of that name, in seconds since 1970 UTC; 0 for none.
 [[nodiscard]] double storedDateLimit(const QString& name);
+
+/// The same, and how often it was cleared in this process: where it is 0 already, clearing doesn't show in it.
+struct DueLimit {
+  double seconds = 0;
+  quint64 clearings = 0;
+  bool operator==(const DueLimit&) const = default;
+};
+[[nodiscard]] DueLimit dueLimit(const QString& name);
+
 /// The ledger of a task as a new start would read it.
 [[nodiscard]] BatchLedger storedLedger(const QString& name, const QString& inputFolderPath);

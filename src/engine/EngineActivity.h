@@ -3,6 +3,8 @@
 
 #include <QString>
 
+class UploaderTask;
+
 struct EngineActivity {
   bool sending = false;
   QString task, file;
@@ -10,8 +12,10 @@ struct EngineActivity {
 };
 
 [[nodiscard]] EngineActivity engineActivity();
-void setEngineActivity(const EngineActivity& activity);
-/// Ends what is told of this task; another's stays.
-void clearEngineActivity(const QString& task);
-/// Only the bytes of the file under way.
-void setEngineProgress(qint64 sentBytes, qint64 totalBytes);
+
+// What a task tells of itself; nothing once its work was left behind, since it is another one's turn then.
+void tellSending(const UploaderTask& task, const QString& file, qint64 totalBytes);
+void tellProgress(const UploaderTask& task, qint64 sentBytes, qint64 totalBytes);
+void tellBatchEnded(const UploaderTask& task);
+/// After a batch was left behind.
+void clearEngineActivity();

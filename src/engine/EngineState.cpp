@@ -3,6 +3,7 @@
 
 #include "engine/EngineActivity.h"
 #include "engine/EngineClock.h"
+#include "engine/UploaderTask.h"
 
 namespace {
 std::atomic<const Clock*> testClock{nullptr};
@@ -22,18 +23,27 @@ EngineActivity engineActivity() {
   return current;
 }
 
-void setEngineActivity(const EngineActivity& activity) {
+// Asked under the guard: whoever leaves a task behind does so first, and clears then.
+static bool mayTell(const UploaderTask& task) { return !task.leftBehind; }
+
+void tellSending(const UploaderTask& task, const QString& file, qint64 totalBytes) {
   const std::lock_guard lock(activityMutex);
-  current = activity;
+  if (mayTell(task)) current = {true, task.Name, file, 0, totalBytes};
 }
 
-void clearEngineActivity(const QString& task) {
+void tellProgress(const UploaderTask& task, qint64 sentBytes, qint64 totalBytes) {
   const std::lock_guard lock(activityMutex);
-  if (current.task == task) current = {};
-}
-
-void setEngineProgress(qint64 sentBytes, qint64 totalBytes) {
-  const std::lock_guard lock(activityMutex);
+  if (!mayTell(task)) return;
   current.sentBytes = sentBytes;
   current.totalBytes = totalBytes;
+}
+
+void tellBatchEnded(const UploaderTask& task) {
+  const std::lock_guard lock(activityMutex);
+  if (mayTell(task)) current = {};
+}
+
+void clearEngineActivity() {
+  const std::lock_guard lock(activityMutex);
+  current = {};
 }

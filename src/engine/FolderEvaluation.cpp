@@ -1,5 +1,7 @@
 // What is due in a task's input folder, and what is remembered of it.
 
+#include <QHash>
+
 #include "engine/DueMemory.h"
 #include "engine/EngineClock.h"
 #include "engine/UploadThread.h"
@@ -15,8 +17,22 @@ static QString limitKey(const QString& name) { return name + u"lastprocessed"_s;
 // The ledger belongs to a folder as much as to a name: tasks of one name share their limit, not their files.
 static QString ledgerKey(const QString& name, const QString& folder) { return name + u"lastversions "_s + folder; }
 
+static std::mutex memoryMutex;  // guards the one below, and holds limit and ledger of prefs together while they change
+
+static QHash<QString, quint64>& clearings() {
+  static auto* const byName = new QHash<QString, quint64>;  // a thread that hangs may outlive main()
+  return *byName;
+}
+
 double storedDateLimit(const QString& name) {
   return VantryUtil::prefs ? VantryUtil::prefs->DoubleValue(limitKey(name)) : 0;
+}
+
+static DueLimit lockedDueLimit(const QString& name) { return {storedDateLimit(name), clearings().value(name)}; }
+
+DueLimit dueLimit(const QString& name) {
+  const std::lock_guard lock(memoryMutex);
+  return lockedDueLimit(name);
 }
 
 BatchLedger storedLedger(const QString& name, const QString& inputFolderPath) {
@@ -26,7 +42,11 @@ BatchLedger storedLedger(const QString& name, const QString& inputFolderPath) {
   return ledger;
 }
 
-void UploaderTask::getDateLimit() { dateLimit = storedDateLimit(Name); }
+void UploaderTask::getDateLimit() {
+  const DueLimit stored = dueLimit(Name);
+  dateLimit = stored.seconds;
+  m_clearings = stored.clearings;
+}
 
 FolderScanResult UploaderTask::listInputFolder(double above) {
   bool tooCostly = false;
@@ -68,7 +88,8 @@ UploaderTask::FolderLook UploaderTask::lookAtInputFolder() {
   }
   Problems::clear(Problem::Kind::InputFolderUnreadable, Name);
   const std::lock_guard lock(m_ledgerMutex);
-  if (VantryUtil::prefs && clearedMeanwhile()) m_ledger = {}, m_ledgerStored = false;
+  if (m_ledgerClearings != m_clearings) m_ledger = {};
+  m_ledgerClearings = m_clearings;
   look.files = readLedger().look(listing.files, dateLimit, look.began, clock.monotonicMs());
   return look;
 }
@@ -82,8 +103,13 @@ BatchLedger& UploaderTask::readLedger() {
 }
 
 void UploaderTask::dealtWith(const ScannedFile& scanned) {
-  const std::lock_guard lock(m_ledgerMutex);
-  readLedger().dealtWith(scanned);
+  TaskPointer heir;
+  {
+    const std::lock_guard lock(m_ledgerMutex);
+    readLedger().dealtWith(scanned);
+    heir = m_heir;
+  }
+  if (heir) heir->dealtWith(scanned);
 }
 
 void UploaderTask::foundMoving(const ScannedFile& scanned) {
@@ -110,12 +136,6 @@ Verdict UploaderTask::judgeVersion(const ScannedFile& scanned, double limit) con
 
 void UploaderTask::keepLedger() { storeLedger(std::nullopt); }
 
-bool UploaderTask::clearedMeanwhile() const {
-  if (storedDateLimit(Name) < dateLimit) return true;
-  // A limit that has never been set can't be seen to fall.
-  return dateLimit <= 0 && m_ledgerStored && !VantryUtil::prefs->HasKey(ledgerKey(Name, inputFolderPath));
-}
-
 static void savePreferences() {
   if (VantryUtil::prefs->save())
     Problems::clear(Problem::Kind::PreferencesNotSaved, {});
@@ -127,10 +147,12 @@ void UploaderTask::storeLedger(std::optional<double> limit) {
   if (!VantryUtil::prefs) return;
   {
     const std::lock_guard lock(m_ledgerMutex);
-    if (clearedMeanwhile()) return;  // all is due again
+    if (m_heir) return;  // it knows more by now
+    const std::lock_guard storing(memoryMutex);
+    const DueLimit stored = lockedDueLimit(Name);
+    if (stored.clearings != m_clearings || stored.seconds < dateLimit) return;  // cleared: all is due again
     if (limit) VantryUtil::prefs->setDoubleValue(limitKey(Name), *limit);
     VantryUtil::prefs->setStringValue(ledgerKey(Name, inputFolderPath), readLedger().toText());
-    m_ledgerStored = true;
   }
   savePreferences();
 }
@@ -138,7 +160,11 @@ void UploaderTask::storeLedger(std::optional<double> limit) {
 void UploaderTask::updateDateLimit(bool clear, double seconds) {
   if (!clear) return storeLedger(seconds);
   if (!VantryUtil::prefs) return;
-  VantryUtil::prefs->setDoubleValue(limitKey(Name), 0);
-  VantryUtil::prefs->Remove(ledgerKey(Name, inputFolderPath));
+  {
+    const std::lock_guard lock(memoryMutex);
+    VantryUtil::prefs->setDoubleValue(limitKey(Name), 0);
+    VantryUtil::prefs->Remove(ledgerKey(Name, inputFolderPath));
+    ++clearings()[Name];
+  }
   savePreferences();
 }

@@ -25,7 +25,7 @@ class BusyFlag {
  public:
   explicit BusyFlag(UploaderTask& task) : m_task(task) { m_task.Busy = true; }
   ~BusyFlag() {
-    clearEngineActivity(m_task.Name);
+    tellBatchEnded(m_task);
     m_task.Busy = false;
   }
   BusyFlag(const BusyFlag&) = delete;
@@ -44,7 +44,7 @@ bool mayPass(int error) {
 
 class Batch {
  public:
-  explicit Batch(UploaderTask& task) : m_task(task) {}
+  Batch(UploaderTask& task, quint64 loginNumber) : m_task(task), m_loginNumber(loginNumber) {}
   void run() {
     try {
       sendAll();
@@ -64,9 +64,7 @@ class Batch {
   }
   /// False when the batch was broken off: the file counts as not dealt with.
   bool process(const ScannedFile& scanned, bool anotherFollows);
-  /// Waits until all that was sent is kept, and tells the ledger.
-  void tellLedger();
-  /// The same; throws what a keeping threw.
+  /// Waits until all that was sent is kept; throws what a keeping threw.
   void settle();
   /// Ends the batch before its time: what was sent is remembered, and the rest stays due.
   void breakOff();
@@ -81,10 +79,10 @@ class Batch {
   void keep(std::vector<SentFile>& sent);
 
   UploaderTask& m_task;
+  const quint64 m_loginNumber;
   std::atomic<bool> m_outputLost{false};
   SpareConnection m_spare;
-  std::vector<ScannedFile> m_kept;  // of the keeping thread until settle() has waited for it
-  bool m_dealtWith = false;         // with any file
+  std::atomic<bool> m_dealtWith{false};  // with any file
   // Ends before what it uses.
   OrderedWork<SentFile> m_keeping{"upload-keep", [this](std::vector<SentFile>& sent) { keep(sent); }};
 };
@@ -109,22 +107,14 @@ void Batch::sendAll() {
   m_task.closeBatch(limit);
 }
 
-void Batch::tellLedger() {
-  m_keeping.wait();
-  for (const ScannedFile& scanned : std::exchange(m_kept, {})) {
-    m_task.dealtWith(scanned);
-    m_dealtWith = true;
-  }
-}
-
 void Batch::settle() {
-  tellLedger();
+  m_keeping.wait();
   m_keeping.throwFailure();
 }
 
 void Batch::breakOff() {
-  tellLedger();
-  if (std::exchange(m_dealtWith, false)) m_task.keepLedger();
+  m_keeping.wait();
+  if (m_dealtWith.exchange(false)) m_task.keepLedger();
 }
 
 bool Batch::process(const ScannedFile& scanned, bool anotherFollows) {
@@ -149,7 +139,8 @@ void Batch::keep(std::vector<SentFile>& sent) {
   const HeldUpCalls::Count counted(m_task.keepingCalls);
   const std::vector<VantryUtil::LogEntry> entries = keepSent(m_task, sent);
   if (!m_task.outputIsThere()) m_outputLost = true;
-  for (const SentFile& file : sent) m_kept.push_back(file.scanned);
+  for (const SentFile& file : sent) m_task.dealtWith(file.scanned);
+  m_dealtWith = true;
   VantryUtil::LogEntry::writeAll(entries);
 }
 
@@ -160,15 +151,17 @@ Batch::Sent Batch::send(SentFile& file, bool anotherFollows) {
   if (m_task.leftBehind) return Sent::Stopped;
   if (*version != file.scanned.version) return Sent::Moving;
 
-  setEngineActivity({true, m_task.Name, file.file.Name(), 0, version->size});
+  tellSending(m_task, file.file.Name(), version->size);
   VantryUtil::SendFileWatch watch;
   watch.version = *version;
-  watch.progress = setEngineProgress;
+  watch.progress = [this](qint64 sent, qint64 total) { tellProgress(m_task, sent, total); };
   watch.spare = &m_spare;
   watch.anotherFollows = anotherFollows;
+  watch.loginNumber = m_loginNumber;
   const bool instrument = m_task.Warden.compare(u"Instrument"_s, Qt::CaseInsensitive) == 0;
   const auto reply = VantryUtil::SendFile(file.newName, m_task.Track, file.file, instrument, file.error, watch);
 
+  if (watch.otherLogin) return Sent::Stopped;
   if (!reply && (UploadThread::stopping() || watch.failure.phase == HttpFailure::Phase::Stopped)) return Sent::Stopped;
   if (!reply && watch.fileChanged) return versionOf(file.file) ? Sent::Moving : missing(file.file);
   if (!reply && watch.failure.phase == HttpFailure::Phase::Source) {
@@ -189,7 +182,9 @@ Batch::Sent Batch::send(SentFile& file, bool anotherFollows) {
 
 }  // namespace
 
-void UploaderTask::ProcessFiles() {
+void UploaderTask::ProcessFiles() { ProcessFiles(VantryUtil::account().loginNumber); }
+
+void UploaderTask::ProcessFiles(quint64 loginNumber) {
   const BusyFlag busy(*this);
-  Batch(*this).run();
+  Batch(*this, loginNumber).run();
 }

@@ -107,21 +107,27 @@ void UploaderTask::TryAutoMount(bool input) {
 }
 
 UploaderTask::StatusValue UploaderTask::lookAtFolders() {
+  noteMounts();
   TryAutoMount(true);
   TryAutoMount(false);
   QString bare;
-  const auto usable = [&bare](const std::optional<FolderItem>& folder) {
+  QByteArray input, output;
+  const auto usable = [&bare](const std::optional<FolderItem>& folder, QByteArray& path) {
     if (!folder || !folder->Directory() || !folder->IsWriteable()) return false;
-    const QString missing = missingMountPoint(*folder);
+    const QString missing = missingMountPoint(*folder, path);
     if (!missing.isEmpty()) bare = missing;
     return missing.isEmpty();
   };
-  const bool ready = usable(inputFolder) && (outputFolderPath.isEmpty() || usable(outputFolder));
+  const bool ready = usable(inputFolder, input) && (outputFolderPath.isEmpty() || usable(outputFolder, output));
   if (bare.isEmpty())
     Problems::clear(Problem::Kind::NothingMounted, Name);
   else
     Problems::raise(Problem::Kind::NothingMounted, Name, bare);
   if (!ready) return Fault;
+  {
+    const std::lock_guard lock(m_mountMutex);
+    m_inputPath = input, m_outputPath = output;
+  }
   m_inputDevice = inputFolder->Device();
   m_outputDevice = outputFolder ? outputFolder->Device() : std::nullopt;
   return Ready;
@@ -138,8 +144,9 @@ bool UploaderTask::inputIsThere() const { return isThere(inputFolder, m_inputDev
 bool UploaderTask::outputIsThere() const { return outputFolderPath.isEmpty() || isThere(outputFolder, m_outputDevice); }
 
 void UploaderTask::updateAllStatus() {
-  for (const TaskPointer& task : allTasks()) {
+  for (TaskPointer task : allTasks()) {
     if (UploadThread::stopping()) return;
+    if (task->leftBehind && task->mountedAnew()) task = renewed(task);
     if (task->leftBehind) {
       task->Status = Fault;
       continue;

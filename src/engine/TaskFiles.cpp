@@ -80,6 +80,17 @@ IoResult UploaderTask::open(const FolderItem& taskFile) {
   return {};
 }
 
+void UploaderTask::copySettings(const UploaderTask& other) {
+  for (const TextMember& member : textMembers) this->*member.field = other.*member.field;
+  for (const FlagMember& member : flagMembers) this->*member.field = other.*member.field;
+  for (const MountMembers& side : mountMembers) {
+    this->*side.wanted.field = other.*side.wanted.field;
+    for (const TextMember& member : side.details) this->*member.field = other.*member.field;
+  }
+  setExclusionPattern(other.mExclusionPattern);
+  file = other.file;
+}
+
 bool UploaderTask::save(const FolderItem& taskFile, IoResult* failure) {
   file = taskFile;
   DictionaryFile dictionary;

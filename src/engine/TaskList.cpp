@@ -139,6 +139,36 @@ IoResult UploaderTask::replaceTask(const TaskPointer& old, const TaskPointer& re
   return replaced->MarkToDelete();
 }
 
+TaskPointer UploaderTask::renewed(const TaskPointer& task) {
+  const auto heir = std::make_shared<UploaderTask>();
+  heir->copySettings(*task);
+  heir->disabled = task->disabled.load();
+  heir->UploadedCount = task->UploadedCount.load();
+  heir->Status = Fault;
+  heir->m_outputSwept = true;  // what seems to be left over may be the other's copy
+  {
+    const std::lock_guard lock(listMutex);
+    const qsizetype place = list.indexOf(task);
+    if (place < 0) return task;
+    list[place] = heir;
+  }
+  {
+    const std::scoped_lock lock(task->m_ledgerMutex, task->m_mountMutex);
+    task->m_heir = heir;
+    heir->m_ledger = task->m_ledger;
+    heir->m_ledgerRead = task->m_ledgerRead;
+    heir->m_ledgerClearings = task->m_ledgerClearings;
+  }
+  Problems::clear(Problem::Kind::FolderSilent, task->Name);
+  System::DebugLog(u"Vantry Uploader - a folder was mounted anew: "_s + task->Name);
+  return heir;
+}
+
+TaskPointer UploaderTask::heir() const {
+  const std::lock_guard lock(m_mountMutex);  // the ledger's may be held for a whole listing
+  return m_heir;
+}
+
 IoResult UploaderTask::MarkToDelete() {
   if (!file) return {};
   FolderItem marked = file->Parent().Child(file->Name().chopped(4) + u".del"_s);

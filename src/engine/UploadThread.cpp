@@ -80,14 +80,16 @@ void processTasks(TaskPointer& task) {
   UploaderTask::updateAllStatus();
   while (!UploadThread::stopping()) {
     task.reset();
+    // Asked before the switch, which is off while the login changes: a batch never begins with one that is not settled.
+    const quint64 loginNumber = VantryUtil::account().loginNumber;
     task = UploaderTask::getNextTaskWithFiles();
     if (!task || !UploadThread::Enabled) return;
     const auto prepared = std::make_shared<bool>(false);
-    const bool answered = FolderWork::run(task, [task, prepared] {
+    const bool answered = FolderWork::run(task, [task, prepared, loginNumber] {
       *prepared = task->PrepareToUpload();
       if (!*prepared) return;
       task->Status = UploaderTask::Processing;
-      task->ProcessFiles();
+      task->ProcessFiles(loginNumber);
       // Its files stay due: it would be taken again at once, and for ever.
       if (!task->inputIsThere() || !task->outputIsThere()) task->Status = UploaderTask::Fault;
     });
@@ -99,7 +101,7 @@ void processTasks(TaskPointer& task) {
       Problems::clear(Problem::Kind::RunFailed, task->Name);
     } else {
       task->Status = UploaderTask::Fault;
-      setEngineActivity({});
+      clearEngineActivity();
     }
     if (!UploadThread::Enabled) return;
   }

@@ -69,7 +69,7 @@ class UploaderTask {
   };
   /// Upload thread; blocks for the folder.
   [[nodiscard]] FolderLook lookAtInputFolder();
-  // The memory of what was dealt with, guarded; changed by the upload thread alone.
+  // The memory of what was dealt with, guarded; changed by the threads that work at the folders.
   void dealtWith(const ScannedFile& scanned);
   void foundMoving(const ScannedFile& scanned);
   /// Ends a batch whose last good look began at `began`: stores the new date limit and the memory.
@@ -88,8 +88,11 @@ class UploaderTask {
   void TryAutoMount(bool input);
   /// Makes the error folder. False when a folder is missing or can't be written; Status is Fault then if a share went.
   [[nodiscard]] bool PrepareToUpload();
-  /// Sends all that is due, with a log row for each file, and stores the new date limit.
+  /// Sends all that is due, with a log row for each file, and stores the new date limit. Once another login is in
+  /// force than the one at the beginning, or that of `loginNumber` (Account), no further file is sent: the batch is
+  /// broken off, and what is left waits for the next one.
   void ProcessFiles();
+  void ProcessFiles(quint64 loginNumber);
 
   /// The pause after a failed mount, common to all tasks: true until 36000 ticks have passed. Any thread.
   [[nodiscard]] static bool triedAutoMount();
@@ -106,6 +109,16 @@ class UploaderTask {
   /// Takes a folder as it is, whatever should be mounted there, until something is; any thread. The caller saves
   /// the preferences.
   static void takeAsItIs(const QString& folderPath);
+
+  /// True once something else is mounted where the folders lie than when work at them began: a call that hangs on the
+  /// old share may hang for ever, while the new one answers. Touches no share. Any thread.
+  [[nodiscard]] bool mountedAnew() const;
+  /// Puts a task of the same settings and the same memory in the place of one whose work was left behind. That work
+  /// keeps the old one; should it ever go on, it stores nothing, but tells the new one what it has dealt with. Gives
+  /// the old one back if it has left the list. Upload thread.
+  [[nodiscard]] static TaskPointer renewed(const TaskPointer& task);
+  /// The task that took this one's place so; none as a rule. Any thread.
+  [[nodiscard]] TaskPointer heir() const;
 
   /// Renames the task's file to end in ".del", so that it isn't loaded any more.
   IoResult MarkToDelete();
@@ -160,16 +173,23 @@ class UploaderTask {
 
  private:
   void buildExclusionRegEx();
+  void copySettings(const UploaderTask& other);
+  void noteMounts();
+  [[nodiscard]] QByteArray mountsOfFolders() const;
   QString mExclusionPattern;
   std::optional<RegEx> exclusionRegEx;
   [[nodiscard]] FolderScanResult listInputFolder(double above);
   BatchLedger& readLedger();
-  [[nodiscard]] bool clearedMeanwhile() const;
   void storeLedger(std::optional<double> limit);
-  mutable std::mutex m_ledgerMutex;  // guards the three below
+  mutable std::mutex m_ledgerMutex;  // guards the four below
+  TaskPointer m_heir;                // written under the other guard as well, under which it may be read too
   BatchLedger m_ledger;
   bool m_ledgerRead = false;
-  bool m_ledgerStored = false;  // by this object
+  quint64 m_ledgerClearings = 0;         // of the limit, when the ledger was last asked
+  quint64 m_clearings = 0;               // of the limit, when dateLimit was read
+  mutable std::mutex m_mountMutex;       // guards the three below
+  QByteArray m_inputPath, m_outputPath;  // free of links, at the last good look
+  QByteArray m_mounts;                   // on which the folders lay when the last look began
   bool m_outputSwept = false;
   std::optional<quint64> m_inputDevice, m_outputDevice;  // at the last good look
 };

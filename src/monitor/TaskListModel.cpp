@@ -52,6 +52,7 @@ void TaskListModel::refresh(bool uploadEnabled) {
   for (int i = 0; i < m_rows.size(); ++i) {
     const RowLook look = m_rows[i].look;
     const qint64 uploaded = m_rows[i].uploaded;
+    while (const TaskPointer heir = m_rows[i].task->heir()) m_rows[i].task = heir;
     bringUpToDate(m_rows[i], uploadEnabled);
     if (m_rows[i].look != look)
       emit dataChanged(index(i, StatusColumn), index(i, FilesColumn));

@@ -24,7 +24,8 @@ MountTable::MountTable(const QByteArray& mountinfo, const QByteArray& fstab) {
   for (const QByteArray& line : mountinfo.split('\n')) {
     const QList<QByteArray> fields = line.split(' ');
     const qsizetype dash = fields.indexOf("-");  // ends the optional fields
-    if (dash >= 6 && fields.size() > dash + 1) m_mounted.append({unescaped(fields[4]), fields[dash + 1]});
+    if (dash >= 6 && fields.size() > dash + 1)
+      m_mounted.append({unescaped(fields[4]), fields[dash + 1], fields[0] + ' ' + fields[2]});
   }
   for (const QByteArray& line : fstab.split('\n')) {
     const QList<QByteArray> fields = line.simplified().split(' ');

@@ -8,6 +8,7 @@
 struct MountEntry {
   QByteArray point;  ///< an absolute path
   QByteArray type;   ///< "cifs", "fuse.gvfsd-fuse", "autofs", …
+  QByteArray id;     ///< another one when the same is mounted anew while a call hangs on the old one
 };
 
 /// True for the folder itself and for what lies in it.

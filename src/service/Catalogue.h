@@ -8,7 +8,6 @@
 #include <QStringList>
 #include <atomic>
 
-#include "service/Credentials.h"
 #include "service/VantryUtil.h"
 
 template <typename Record>
@@ -33,7 +32,7 @@ class Catalogue {
   /// answer to a login that was replaced meanwhile is dropped. After a failure it counts as never fetched.
   [[nodiscard]] bool fetch(const QString& method, HttpFailure* failure) {
     forget();
-    const QString login = storedPreference(loginKey());
+    const quint64 login = VantryUtil::account().loginNumber;
     QString err;  // dropped: an empty list says it
     const std::optional<Dictionary> reply = VantryUtil::VTSoap(method, err, {}, {}, failure);
     if (!reply) return false;
@@ -41,15 +40,13 @@ class Catalogue {
     for (const QVariant& value : reply->Values()) {
       if (value.canConvert<JSONItem>()) fetched.append(Record(VantryUtil::JSONtoDictionary(value.value<JSONItem>())));
     }
-    if (storedPreference(loginKey()) != login) return false;
+    if (VantryUtil::account().loginNumber != login) return false;
     setRecords(fetched);
     m_everFetched = true;
     return true;
   }
 
  private:
-  [[nodiscard]] static QString loginKey() { return QStringLiteral("SoapLogin"); }
-
   mutable QMutex m_mutex;  // guards m_records
   QList<Record> m_records;
   std::atomic<bool> m_everFetched{false};

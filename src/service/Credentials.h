@@ -1,14 +1,13 @@
 #pragma once
-// What both kinds of call take from the preferences at each call. Any thread.
+// What both kinds of call have in common. Any thread.
 
 #include <QString>
+
+#include "storage/Preferences.h"
 
 /// Milliseconds of patience with the service.
 inline constexpr int ServiceTimeoutMs = 20'000;
 inline constexpr char EnvelopeType[] = "text/xml; charset=utf-8";
 
-/// The stored text under a key, without white space at its ends; empty if there is none.
-[[nodiscard]] QString storedPreference(const QString& key);
-
-/// Where calls go: the account's endpoint, or the default one while that is blank.
-[[nodiscard]] QString endpointInForce();
+/// Where calls of that account go: to its endpoint, or to the default one as long as that isn't known.
+[[nodiscard]] QString endpointFor(const VantryUtil::Account& account);

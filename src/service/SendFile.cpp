@@ -12,13 +12,14 @@ using namespace Qt::Literals::StringLiterals;
 
 /// The envelope before and behind the file's content. The template is cut before it is filled, since a file may be
 /// named like the placeholder.
-static void setEnvelope(FileSource& source, const QString& filename, const QString& workflowName, bool instrumentJob) {
+static void setEnvelope(FileSource& source, const VantryUtil::Account& account, const QString& filename,
+                        const QString& workflowName, bool instrumentJob) {
   const QByteArray pattern = VantryUtil::sendFileTemplate();
   const QByteArray body = "[FILEBODY]";
   const qsizetype cut = pattern.indexOf(body);
-  const QByteArray loginField = Envelope::escaped(storedPreference(u"SoapLogin"_s));
+  const QByteArray loginField = Envelope::escaped(account.login);
   const QByteArray nameField = Envelope::escaped(filename), workflowField = Envelope::escaped(workflowName);
-  QByteArray passwordField = Envelope::passwordField(storedPreference(u"SoapPassword"_s));
+  QByteArray passwordField = Envelope::passwordField(account.password);
   const auto fill = [&](const QByteArray& part) {
     return Envelope::fill(part, {{"[login]", loginField},
                                  {"[Trackname]", instrumentJob ? "ITWorkflowName" : "Trackname"},
@@ -42,7 +43,7 @@ static void takeFileState(const FileSourceState& state, VantryUtil::SendFileWatc
 std::optional<Dictionary> VantryUtil::SendFile(const QString& filename, const QString& workflowName,
                                                const std::optional<FolderItem>& file, bool instrumentJob, QString& err,
                                                SendFileWatch& watch) {
-  watch.fileChanged = false;
+  watch.fileChanged = watch.otherLogin = false;
   watch.failure = {};
   if (!file) {
     watch.failure = {HttpFailure::Phase::Source, ENOENT, VTULocalization::klNoFileToSend()};
@@ -54,15 +55,18 @@ std::optional<Dictionary> VantryUtil::SendFile(const QString& filename, const QS
     takeFileState(state, watch);
     return std::nullopt;
   }
-  setEnvelope(*source, filename, workflowName, instrumentJob);
+  const Account inForce = account();  // once: what this file goes with belongs together
+  watch.otherLogin = watch.loginNumber && *watch.loginNumber != inForce.loginNumber;
+  if (watch.otherLogin) return std::nullopt;
+  setEnvelope(*source, inForce, filename, workflowName, instrumentJob);
   source->setProgress(watch.progress);
 
   HTTPSecureSocket socket;
-  ConfigureProxy(socket);
+  ConfigureProxy(socket, inForce.proxy);
   socket.spare = watch.spare;
   socket.anotherFollows = watch.anotherFollows;
   socket.SetRequestSource(std::move(source), EnvelopeType);
-  const QByteArray page = socket.Post(endpointInForce(), ServiceTimeoutMs);
+  const QByteArray page = socket.Post(endpointFor(inForce), ServiceTimeoutMs);
   watch.failure = socket.failure();
   takeFileState(state, watch);
   const SoapReplyTexts texts{u"Could not parse server response - invalid or missing XML"_s, u"Soap Error"_s};

@@ -18,7 +18,8 @@ namespace VantryUtil {
 
 /// https://<service host of the build>/api
 [[nodiscard]] QString DefaultAPIEndpoint();
-/// The account's endpoint as the service gave it; blank until it answered. Guarded; any thread.
+/// The account's endpoint as the service gave it; blank until it answered, and again from a change of the login on.
+/// Guarded; any thread.
 [[nodiscard]] QString AccountURL();
 void setAccountURL(const QString& url);
 
@@ -35,8 +36,10 @@ struct SendFileWatch {
   FileVersion version;                                      ///< the version to send; a file in any other is not sent
   std::function<void(qint64 sent, qint64 total)> progress;  ///< file bytes, after each 48 KiB of them; calling thread
   SpareConnection* spare = nullptr;                         ///< for a row of files, the caller's
-  bool anotherFollows = false;  ///< another file follows at once: its connection is made ahead
+  bool anotherFollows = false;         ///< another file follows at once: its connection is made ahead
+  std::optional<quint64> loginNumber;  ///< the login (Account) without which the file is not to be sent; any if empty
   bool fileChanged = false;  ///< out: the file was not in that version, or moved while it was read; exchange broken off
+  bool otherLogin = false;   ///< out: another login is in force, and nothing was sent
   HttpFailure failure;       ///< out: how the exchange ended
 };
 

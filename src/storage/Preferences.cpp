@@ -17,9 +17,10 @@ std::shared_ptr<DictionaryFile> prefs;
 
 namespace {
 
-QMutex mutex;  // guards the three below
+QMutex mutex;  // guards the four below; login and password of prefs change together under it
 QString soapUserName, soapPassword;
 ProxySetting proxyInForce;
+quint64 loginNumber = 0;
 
 /// True for content that no repair of the machine will make readable. A file that is forbidden, or on a disk that
 /// fails, may be whole: it stays where it is.
@@ -94,6 +95,25 @@ ProxySetting proxy() {
 void setProxy(const ProxySetting& setting) {
   const QMutexLocker lock(&mutex);
   proxyInForce = setting;
+}
+
+Account account() {
+  const QMutexLocker lock(&mutex);
+  Account now{{}, {}, proxyInForce, loginNumber};
+  if (!prefs) return now;
+  now.login = prefs->StringValue(u"SoapLogin"_s).trimmed();
+  now.password = prefs->StringValue(u"SoapPassword"_s).trimmed();
+  return now;
+}
+
+bool changeAccount(const QString& login, const QString& password, const ProxySetting& setting) {
+  const QMutexLocker lock(&mutex);
+  const bool another = login.trimmed() != prefs->StringValue(u"SoapLogin"_s).trimmed();
+  if (another) ++loginNumber;
+  prefs->setStringValue(u"SoapLogin"_s, login);
+  prefs->setStringValue(u"SoapPassword"_s, password);
+  proxyInForce = setting;
+  return another;
 }
 
 }  // namespace VantryUtil

@@ -33,4 +33,16 @@ struct ProxySetting {
 [[nodiscard]] ProxySetting proxy();
 void setProxy(const ProxySetting& setting);
 
+/// What a call to the service goes with: values that belong together.
+struct Account {
+  QString login, password;  ///< as stored, without white space at their ends
+  ProxySetting proxy;
+  quint64 loginNumber = 0;  ///< another one after each change of the login in this process
+};
+/// What is in force.
+[[nodiscard]] Account account();
+/// Stores login and password in prefs, which the caller saves, and brings them into force together with the proxy.
+/// True if the login is another one.
+bool changeAccount(const QString& login, const QString& password, const ProxySetting& setting);
+
 }  // namespace VantryUtil

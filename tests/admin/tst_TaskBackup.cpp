@@ -88,12 +88,15 @@ class tst_TaskBackup : public QObject {
   }
 
   void aShareThatHangsHoldsNothingUp_data() {
-    QTest::addColumn<bool>("save");
-    QTest::newRow("a backup into it") << true;
-    QTest::newRow("a restore from it") << false;
+    addColumns<bool, HangingShare::Calls, QString>("save", "calls", "missing");
+    QTest::newRow("a backup into it") << true << HangingShare::Calls::All << u"a.vnt\nb.vnt"_s;
+    QTest::newRow("a restore from it") << false << HangingShare::Calls::All << QString();
+    QTest::newRow("a restore that reads a file") << false << HangingShare::Calls::Opening << u"a.vnt"_s;
   }
   void aShareThatHangsHoldsNothingUp() {
     QFETCH(bool, save);
+    QFETCH(HangingShare::Calls, calls);
+    QFETCH(QString, missing);
     AdminFixture fixture;
     const QString share = fixture.home.makeFolder(u"hanging-share"_s);
     write(share + u"/a.vnt"_s, "of the share");
@@ -101,7 +104,7 @@ class tst_TaskBackup : public QObject {
     fixture.open();
     const Choice choice(share);
     {
-      const HangingShare hanging;
+      const HangingShare hanging(calls);
       const LoopWatch watch;
       fixture.press(save ? "saveConfigurationButton" : "LoadConfigurationButton");
       QTRY_COMPARE(fixture.line("BackupLine"), klBackupSlow());
@@ -110,7 +113,7 @@ class tst_TaskBackup : public QObject {
       const BoxAnswer told(QMessageBox::Ok);
       fixture.press("CancelAdminButton");
       QVERIFY(!fixture.window().isVisible());
-      QCOMPARE(told.text(), save ? klCopyingStopped() + u"\n\na.vnt\nb.vnt"_s : QString());
+      QCOMPARE(told.text(), missing.isEmpty() ? QString() : klCopyingStopped() + u"\n\n"_s + missing);
       QCOMPARE(fixture.window().outcome().tasksRestored, !save);
     }
     QVERIFY(BackgroundCall::waitForAll(60'000));

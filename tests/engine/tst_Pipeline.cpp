@@ -8,6 +8,7 @@
 #include "platform/Problems.h"
 #include "platform/SafeFile.h"
 #include "platform/Unprivileged.h"
+#include "service/VantryUtil.h"
 #include "storage/LogEntry.h"
 #include "storage/Preferences.h"
 #include "support/EngineBench.h"
@@ -321,6 +322,58 @@ class tst_Pipeline : public QObject {
     QCOMPARE(bench.notes().size(), cleared ? 3 : 2);
     QTEST(static_cast<int>(bench.files(u"out"_s).filter(u"a.txt"_s).size()), "sentOfA");
     QCOMPARE(bench.files(u"out"_s).filter(u"b.txt"_s).size(), 1);
+  }
+
+  void aLoginChangedInMidBatchLeavesTheRestToTheNextOne() {
+    EngineBench bench;
+    for (const QString& name : {u"a.txt"_s, u"b.txt"_s, u"c.txt"_s}) bench.drop(name);
+    UploaderTask::addTask(bench.makeTask());
+    PracticeService::Options options;
+    options.login = u"another"_s, options.password = u"of another"_s;
+    PracticeService other(options);
+    QVERIFY(other.start());
+    bench.service.hold();
+    UploadThread::Start();
+    QVERIFY(bench.service.waitForHeld(1, 10'000));
+    {
+      const UploadHold hold;  // as the admin window's
+      QVERIFY(VantryUtil::changeAccount(options.login, options.password, {}));
+      QVERIFY2(VantryUtil::AccountURL().isEmpty(), "the endpoint is the old login's");
+      bench.service.release();
+      QTRY_VERIFY(!UploadThread::ProcessingNow());
+      QCOMPARE(bench.notes(), QStringList{Saved});
+      bench.restart();  // what was sent is on the disk
+      VantryUtil::setAccountURL(other.url());
+      VantryUtil::setExtraCaFile(other.caFile());
+    }
+    UploaderTask::unload();
+    EngineBench::process(*bench.makeTask());
+    QCOMPARE(bench.received(), QStringList{u"a.txt"_s});
+    QCOMPARE(other.receipts().size(), 2);
+    QCOMPARE(bench.notes(), QStringList(3, Saved));
+  }
+
+  void aLimitClearedInMidBatchStaysCleared() {
+    EngineBench bench;
+    const TaskPointer task = bench.makeTask();
+    UploaderTask::addTask(task);
+    for (const int already : {0, 2}) {  // the first batch, before any limit was stored, and a later one
+      bench.drop(u"%1.txt"_s.arg(already));
+      bench.service.hold();
+      UploadThread::Start();
+      QVERIFY(bench.service.waitForHeld(1, 10'000));
+      {
+        const UploadHold hold;  // as the editor's
+        bench.makeTask()->updateDateLimit(true);
+        bench.service.release();
+        QTRY_VERIFY(!UploadThread::ProcessingNow());
+      }
+      QCOMPARE(bench.received().size(), already + 1);
+      bench.clock.advance(4);
+      EngineBench::process(*task);
+      QCOMPARE(bench.received().size(), already == 0 ? 2 : 5);
+      bench.clock.advance(100);
+    }
   }
 
   void clearingTheLimitSendsTheFolderAgain() {

@@ -40,7 +40,10 @@ class tst_Shares : public QObject {
 
  private slots:
   void init() { FolderWork::setLimit(1500); }
-  void cleanup() { FolderWork::setLimit(20'000); }
+  void cleanup() {
+    FolderWork::setLimit(20'000);
+    setMountTable({});
+  }
 
   void aShareThatHangsHoldsUpItsOwnTasksAlone() {
     EngineBench bench;
@@ -93,6 +96,64 @@ class tst_Shares : public QObject {
     QTRY_VERIFY(!UploadThread::ProcessingNow());
     QCOMPARE(bench.received().count(u"a1.txt"_s), 1);
     QCOMPARE(bench.files(u"out"_s), (QStringList{u"a1.txt"_s, u"a2.txt"_s, u"c1.txt"_s}));
+  }
+
+  void aShareMountedAnewHealsItsTaskThoughTheOldCallsNeverEnd() {
+    EngineBench bench;
+    const QByteArray point = bench.home.path(u"hanging-share"_s).toUtf8();
+    const auto device = std::make_shared<std::atomic<char>>('1');
+    setMountTable([point, device] {
+      const QByteArray id(1, device->load());
+      return MountTable("9 0 8:1 / / rw - ext4 /dev/a rw\n" + id + " 9 0:9 / " + point + " rw - nfs4 s:/ rw\n", {});
+    });
+    const TaskPointer old = listed(bench, u"a"_s, u"hanging-share/a"_s);
+    bench.drop(u"a2.txt"_s, QByteArray(1 << 20, 'x'), u"hanging-share/a"_s);
+    bench.drop(u"a3.txt"_s, "x", u"hanging-share/a"_s);
+    bench.service.whenBodyReaches(200'000, [&] { bench.service.hold(); });
+    UploadThread::Start();
+    QVERIFY(bench.service.waitForHeld(1, 10'000));
+    QTRY_COMPARE(bench.notes().size(), 1);  // a1 is kept
+    TaskPointer present;
+    {
+      const HangingShare hangs;
+      bench.service.release();
+      QTRY_VERIFY_WITH_TIMEOUT(old->leftBehind && !UploadThread::ProcessingNow(), 20'000);
+      UploadThread::Start();
+      QTRY_VERIFY(!UploadThread::ProcessingNow());
+      QCOMPARE(UploaderTask::allTasks(), QList{old});
+      HangingShare::answerNewCalls();
+      *device = '2';
+      QVERIFY(runUntil([&] { return bench.received().contains(u"a3.txt"_s); }));
+      QTRY_VERIFY(!UploadThread::ProcessingNow());
+      QVERIFY(HangingShare::waiting() > 0 && old->Busy);
+      present = UploaderTask::allTasks().first();
+      QVERIFY(present == old->heir() && !present->Busy && Problems::present().isEmpty());
+      QCOMPARE(present->inputFolderPath + present->Track, old->inputFolderPath + old->Track);
+    }
+    QTRY_VERIFY(!old->Busy);
+    bench.restart();
+    const TaskPointer next = bench.makeTask(u"a"_s);
+    next->inputFolderPath = old->inputFolderPath;
+    for (const TaskPointer& task : {present, next, next}) {
+      bench.clock.advance(4);
+      EngineBench::process(*task);
+    }
+    QCOMPARE(bench.received(), (QStringList{u"a1.txt"_s, u"a2.txt"_s, u"a2.txt"_s, u"a3.txt"_s}));
+  }
+
+  void aBatchLeftBehindTellsNothingAtAnotherOnesTurn() {
+    UploaderTask behind, present;
+    behind.Name = present.Name = u"a"_s;
+    behind.leftBehind = true;
+    tellSending(present, u"1.txt"_s, 10);
+    tellProgress(present, 4, 10);
+    tellSending(behind, u"2.txt"_s, 20);
+    tellProgress(behind, 20, 20);
+    tellBatchEnded(behind);
+    const EngineActivity activity = engineActivity();
+    QCOMPARE(u"%1 %2 of %3"_s.arg(activity.file).arg(activity.sentBytes).arg(activity.totalBytes), u"1.txt 4 of 10"_s);
+    tellBatchEnded(present);
+    QVERIFY(!engineActivity().sending);
   }
 
   void aFolderThatGoesInMidBatchCostsNoFileAndHoldsUpNobody_data() {

@@ -118,10 +118,22 @@ class tst_StartUp : public QObject {
     VTTrack::forget();
     std::thread slow([] { (void)VantryUtil::TrackList(); });
     const bool asked = bench.service.waitForRequests(1, 10'000);
-    VantryUtil::prefs->setStringValue(u"SoapLogin"_s, u"another"_s);
+    const bool another = VantryUtil::changeAccount(u"another"_s, u"x"_s, {});
     slow.join();
-    QVERIFY(asked);
+    QVERIFY(asked && another);
     QVERIFY(VTTrack::ListDevices().isEmpty() && !VTTrack::everFetched());
+
+    PracticeService::Options options;
+    options.login = u"another"_s, options.password = u"x"_s;
+    PracticeService service(options);
+    startAtDefault(service);
+    service.misbehave({.kind = Misbehaviour::Kind::TrickleReply, .bytes = 100, .everyMs = 20});
+    bool resolved = true;
+    std::thread slowToo([&resolved] { resolved = VantryUtil::ResolveAccountURL(); });
+    const bool askedToo = service.waitForRequests(1, 10'000);
+    VantryUtil::changeAccount(u"a third"_s, u"x"_s, {});
+    slowToo.join();
+    QVERIFY(askedToo && !resolved && VantryUtil::AccountURL().isEmpty());
   }
 
   void anExceptionIsHandedOut() {

@@ -51,6 +51,18 @@ class tst_TaskListModel : public QObject {
     }
   }
 
+  void aRefreshShowsTheTaskThatTookAnothersPlace() {
+    const TaskPointer old = makeTask(u"a"_s, UploaderTask::Fault);
+    UploaderTask::addTask(old);
+    Model model;
+    model.setTasks({old}, true);
+    const TaskPointer heir = UploaderTask::renewed(old);
+    heir->Status = UploaderTask::Ready;
+    model.refresh(true);
+    UploaderTask::unload();
+    QVERIFY(heir != old && model.task(0) == heir && model.faultyTasks().isEmpty());
+  }
+
   void aRefreshAnnouncesWhatChangedAndNothingElse() {
     const QList<TaskPointer> tasks{makeTask(u"a\nb\u202e"_s), makeTask(u"b"_s, 0, true), makeTask(u"c"_s)};
     tasks[0]->Description = u"<img src=x>"_s;
