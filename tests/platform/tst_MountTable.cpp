@@ -1,5 +1,6 @@
 // Which mount point a path lies under, and which one it misses.
 
+#include <QTemporaryDir>
 #include <QTest>
 
 #include "platform/Mount.h"
@@ -40,6 +41,31 @@ class tst_MountTable : public QObject {
         "# a comment /mnt/no x\nUUID=1 / ext4 defaults 0 1\n//server/p\t/mnt/paper/ cifs noauto 0 0\n"
         "//server/a /mnt/a\\040b cifs ro 0 0\nUUID=2 none swap sw 0 0\n");
     QTEST(table.missingFor(path, remembered), "missing");
+  }
+
+  void aPathThatLeadsToAShare() {
+    const QTemporaryDir home;
+    const auto link = [&](const char* target, const char* name) {
+      if (!QFile::link(QString::fromUtf8(target), home.filePath(QString::fromUtf8(name)))) qFatal("no link");
+    };
+    link("/mnt/nas/in", "over a link");
+    link("over a link", "over two links");
+    link("in a circle", "in a circle");
+    link("..", "back");
+    const MountTable table(
+        "22 1 8:1 / / rw - ext4 /dev/sda1 rw\n30 22 0:40 / /mnt/nas rw - nfs4 server:/a rw\n"
+        "31 30 0:41 / /mnt/nas/local rw - tmpfs tmpfs rw\n32 22 0:42 / /auto rw - autofs systemd-1 rw\n"
+        "33 22 0:43 / /run/gvfs rw - fuse.gvfsd-fuse gvfsd-fuse rw\n34 22 0:44 / /home/nas rw - newfs x rw\n",
+        "");
+    for (const char* const path :
+         {"/mnt/nas", "/mnt/nas/local/x", "/mnt/nas/..", "/auto", "/run/gvfs/x", "/home/nas", "/mnt/./x/../nas"})
+      QVERIFY2(table.leadsToShare(path), path);
+    for (const char* const path : {"/", "/mnt", "/mnt/nas2", "/mnt/x/../../home"})
+      QVERIFY2(!table.leadsToShare(path), path);
+    const QByteArray at = home.path().toUtf8() + '/';
+    for (const char* const path : {"over a link", "over two links/x", "no/../over a link"})
+      QVERIFY2(table.leadsToShare(at + path), path);
+    for (const char* const path : {"", "no", "in a circle/x", "back/x"}) QVERIFY2(!table.leadsToShare(at + path), path);
   }
 
   void whatIsShownOfAnAddress_data() {
