@@ -1,5 +1,6 @@
 #include "widgets/GuardedFileDialog.h"
 
+#include <QAbstractItemDelegate>
 #include <QAbstractItemView>
 #include <QAction>
 #include <QComboBox>
@@ -24,7 +25,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-constexpr int LimitMs = 400;    // for an answer, before the line says that there is none
+constexpr int LimitMs = 400;     // for an answer, before the line says that there is none
 constexpr int ListingMs = 2000;  // the same for a folder's list
 
 namespace {
@@ -112,12 +113,14 @@ void GuardedFileDialog::guardViews() {
   for (const QString& name : viewNames()) {
     auto* const view = findChild<QAbstractItemView*>(name);
     view->installEventFilter(this);
+    connect(
+        view->itemDelegate(), &QAbstractItemDelegate::closeEditor, this,
+        [this] { m_model->setReadOnly(leadsToShare(m_model->rootPath())); }, Qt::QueuedConnection);
     disconnect(view, &QAbstractItemView::activated, this, nullptr);
     connect(view, &QAbstractItemView::activated, this, &GuardedFileDialog::handleActivated);
     disconnect(view, &QWidget::customContextMenuRequested, this, nullptr);
     connect(view, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
-      ask(m_model->rootPath(),
-          [=, this] { QMetaObject::invokeMethod(this, "_q_showContextMenu", Q_ARG(QPoint, at)); });
+      ask(m_model->rootPath(), [=, this] { QMetaObject::invokeMethod(this, "_q_showContextMenu", Q_ARG(QPoint, at)); });
     });
     for (auto* const shortcut : view->findChildren<QShortcut*>()) {
       disconnect(shortcut, &QShortcut::activated, this, nullptr);
@@ -143,8 +146,7 @@ void GuardedFileDialog::guardPlaces() {
   sidebar->setDragDropMode(QAbstractItemView::NoDragDrop);  // a folder that is dropped is looked at
   auto* const places = findChild<QComboBox*>(u"lookInCombo"_s);
   disconnect(places, &QComboBox::textActivated, this, nullptr);
-  connect(places, &QComboBox::activated, this,
-          [=, this](int row) { goToUrl(places->itemData(row, UrlRole).toUrl()); });
+  connect(places, &QComboBox::activated, this, [=, this](int row) { goToUrl(places->itemData(row, UrlRole).toUrl()); });
 }
 
 void GuardedFileDialog::guardButtons() {
@@ -156,12 +158,17 @@ void GuardedFileDialog::guardButtons() {
   guard("backButton", [this] { enterVisited(m_at - 1); });
   guard("forwardButton", [this] { enterVisited(m_at + 1); });
   guard("toParentButton", [this] { enterParent(); });
-  guard("newFolderButton", [this] { ask(m_model->rootPath(), [this] { callToolkit("_q_createDirectory"); }); });
+  guard("newFolderButton", [this] { ask(m_model->rootPath(), [this] { createFolder(); }); });
   for (QAction* const action : actions()) {
     disconnect(action, &QAction::triggered, this, nullptr);
     const bool toParent = action->objectName() == u"qt_goto_parent_action";
     connect(action, &QAction::triggered, this, [=, this] { toParent ? enterParent() : enter(QDir::homePath()); });
   }
+}
+
+void GuardedFileDialog::createFolder() {
+  m_model->setReadOnly(false);  // until it has been given its name
+  callToolkit("_q_createDirectory");
 }
 
 bool GuardedFileDialog::eventFilter(QObject* watched, QEvent* event) {
@@ -219,8 +226,8 @@ void GuardedFileDialog::goToUrl(const QUrl& url) {
 }
 
 void GuardedFileDialog::handleActivated(const QModelIndex& index) {
-  if (!m_model->isDir(index)) return accept();
-  enter(index.data(QFileSystemModel::FilePathRole).toString());
+  const QString path = index.data(QFileSystemModel::FilePathRole).toString();
+  ask(path, [=, this, row = QPersistentModelIndex(index)] { m_model->isDir(row) ? enter(path) : accept(); });
 }
 
 void GuardedFileDialog::handleSelection() {
@@ -276,6 +283,7 @@ void GuardedFileDialog::handleEntered(const QString& path) {
     ++m_at;
   }
   enableVisited();
+  m_model->setReadOnly(leadsToShare(path));  // else each look at a row may look at the file
   if (path.startsWith(u'/') && !m_loaded.contains(path)) return m_listing.start(ListingMs);
   m_listing.stop();  // the list of drives is never told to be complete
 }

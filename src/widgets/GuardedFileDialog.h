@@ -40,6 +40,7 @@ class GuardedFileDialog : public QFileDialog {
   void ask(const QString& path, std::function<void()> then);
   void enter(const QString& path);
   void enterParent();
+  void createFolder();
   void enterVisited(qsizetype at);
   void handleActivated(const QModelIndex& index);
   void handleSelection();
@@ -57,7 +58,7 @@ class GuardedFileDialog : public QFileDialog {
   QLineEdit* m_name = nullptr;
   QCompleter* m_completer = nullptr;
   QLabel* m_line = nullptr;
-  QString m_silent;       // what the line is about
+  QString m_silent;        // what the line is about
   QSet<QString> m_loaded;  // folders whose files have been listed
   QStringList m_visited;
   qsizetype m_at = -1;  // in m_visited

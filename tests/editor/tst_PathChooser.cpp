@@ -46,8 +46,8 @@ class OpenChooser {
   }
   QModelIndex row(const QString& name) {
     const auto* const view = part<QListView>("listView");
-    const QModelIndexList found = view->model()->match(view->model()->index(0, 0, view->rootIndex()), Qt::DisplayRole,
-                                                       name, 1, Qt::MatchExactly);
+    const QModelIndexList found =
+        view->model()->match(view->model()->index(0, 0, view->rootIndex()), Qt::DisplayRole, name, 1, Qt::MatchExactly);
     return found.value(0);
   }
   void type(const QString& text) {
@@ -90,38 +90,59 @@ class tst_PathChooser : public QObject {
       QTest::newRow(label) << begin << step << end;
     };
     const QString share = u"/hanging-share"_s, in = share + u"/in"_s;
-    row("a row of the list", {}, [](auto& it) {
-      it.dialog->setViewMode(QFileDialog::List);
-      it.activate("listView", u"hanging-share"_s);
-    }, share);
-    row("a row of the table", {}, [](auto& it) { it.activate("treeView", u"hanging-share"_s); }, share);
-    row("typed", {}, [](auto& it) { it.type(it.share + u"/in"_s); }, u"chosen "_s + in);
-    row("chosen", {}, [](auto& it) {
-      it.template part<QAbstractItemView>("treeView")->setFocus();
-      it.template part<QAbstractItemView>("treeView")->setCurrentIndex(it.row(u"hanging-share"_s));
-      it.press(QDialogButtonBox::Open);
-    }, u"chosen "_s + share);
-    row("back", in, [](auto& it) {
-      it.template part<QToolButton>("toParentButton")->click();
-      it.template part<QToolButton>("backButton")->click();
-    }, in);
-    row("a place at the side", {}, [](auto& it) {
-      auto* const side = it.template part<QListView>("sidebar");
-      const QModelIndex last = side->model()->index(side->model()->rowCount() - 1, 0);
-      QTest::mouseClick(side->viewport(), Qt::LeftButton, {}, side->visualRect(last).center());
-    }, in);
-    row("a place above", in, [](auto& it) {
-      auto* const places = it.template part<QComboBox>("lookInCombo");
-      places->showPopup();
-      places->hidePopup();
-      places->setCurrentIndex(1);
-      emit places->activated(1);
-      emit places->textActivated(places->currentText());
-    }, share);
-    row("up", in, [](auto& it) { QTest::keyClick(it.template part<QTreeView>("treeView"), Qt::Key_Backspace); }, share);
-    row("up by two dots", in, [](auto& it) { it.type(u".."_s); }, share);
-    row("inside of it", share, [](auto& it) { it.activate("treeView", u"in"_s); }, in);
-    row("out of it", in, [](auto& it) { it.type(it.local); }, u"chosen"_s);
+    row(
+        "a row of the list", {},
+        [](auto& it) {
+          it.dialog->setViewMode(QFileDialog::List);
+          it.activate("listView", u"hanging-share"_s);
+        },
+        share);
+    row(
+        "a row of the table", {}, [](auto& it) { it.activate("treeView", u"hanging-share"_s); }, share);
+    row(
+        "typed", {}, [](auto& it) { it.type(it.share + u"/in"_s); }, u"chosen "_s + in);
+    row(
+        "chosen", {},
+        [](auto& it) {
+          it.template part<QAbstractItemView>("treeView")->setFocus();
+          it.template part<QAbstractItemView>("treeView")->setCurrentIndex(it.row(u"hanging-share"_s));
+          it.press(QDialogButtonBox::Open);
+        },
+        u"chosen "_s + share);
+    row(
+        "back", in,
+        [](auto& it) {
+          it.dialog->setDirectory(it.local);
+          it.template part<QToolButton>("backButton")->click();
+        },
+        in);
+    row(
+        "a place at the side", {},
+        [](auto& it) {
+          auto* const side = it.template part<QListView>("sidebar");
+          const QModelIndex last = side->model()->index(side->model()->rowCount() - 1, 0);
+          QTest::mouseClick(side->viewport(), Qt::LeftButton, {}, side->visualRect(last).center());
+        },
+        in);
+    row(
+        "a place above", in,
+        [](auto& it) {
+          auto* const places = it.template part<QComboBox>("lookInCombo");
+          places->showPopup();
+          places->hidePopup();
+          places->setCurrentIndex(1);
+          emit places->activated(1);
+          emit places->textActivated(places->currentText());
+        },
+        share);
+    row(
+        "up", in, [](auto& it) { QTest::keyClick(it.template part<QTreeView>("treeView"), Qt::Key_Backspace); }, share);
+    row(
+        "up by two dots", in, [](auto& it) { it.type(u".."_s); }, share);
+    row(
+        "inside of it", share, [](auto& it) { it.activate("treeView", u"in"_s); }, in);
+    row(
+        "out of it", in, [](auto& it) { it.type(it.local); }, u"chosen"_s);
   }
   void eachStepWaitsForTheShareInTheBackground() {
     QFETCH(QString, begin);
