@@ -855,6 +855,10 @@ In diesem Ordner werden verarbeitete Dateien abgelegt.</translation>
             <source>It is still being written, or changed a moment ago. It is sent when it has been at rest for two seconds.</source>
             <translation>Sie wird noch geschrieben oder wurde eben erst geändert. Sie wird gesendet, wenn sie zwei Sekunden lang unverändert ist.</translation>
         </message>
+        <message id="VTULocalization.klFolderSilent">
+            <source>&quot;$1&quot; does not answer yet. You can wait, choose another folder, or cancel.</source>
+            <translation>„$1“ antwortet noch nicht. Sie können warten, einen anderen Ordner wählen oder abbrechen.</translation>
+        </message>
         <message id="VTULocalization.klSpanSeconds">
             <source>$1 s</source>
             <translation>$1 s</translation>

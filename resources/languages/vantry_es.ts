@@ -855,6 +855,10 @@ En esta carpeta se guardarán los archivos procesados.</translation>
             <source>It is still being written, or changed a moment ago. It is sent when it has been at rest for two seconds.</source>
             <translation>Aún se está escribiendo o acaba de modificarse. Se enviará cuando lleve dos segundos sin cambios.</translation>
         </message>
+        <message id="VTULocalization.klFolderSilent">
+            <source>&quot;$1&quot; does not answer yet. You can wait, choose another folder, or cancel.</source>
+            <translation>«$1» aún no responde. Puede esperar, elegir otra carpeta o cancelar.</translation>
+        </message>
         <message id="VTULocalization.klSpanSeconds">
             <source>$1 s</source>
             <translation>$1 s</translation>

@@ -855,6 +855,10 @@ Les fichiers traités y seront rangés.</translation>
             <source>It is still being written, or changed a moment ago. It is sent when it has been at rest for two seconds.</source>
             <translation>Il est encore en cours d’écriture ou vient d’être modifié. Il sera envoyé après deux secondes sans changement.</translation>
         </message>
+        <message id="VTULocalization.klFolderSilent">
+            <source>&quot;$1&quot; does not answer yet. You can wait, choose another folder, or cancel.</source>
+            <translation>« $1 » ne répond pas encore. Vous pouvez attendre, choisir un autre dossier ou annuler.</translation>
+        </message>
         <message id="VTULocalization.klSpanSeconds">
             <source>$1 s</source>
             <translation>$1 s</translation>

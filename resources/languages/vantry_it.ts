@@ -855,6 +855,10 @@ Qui verranno conservati i file elaborati.</translation>
             <source>It is still being written, or changed a moment ago. It is sent when it has been at rest for two seconds.</source>
             <translation>È ancora in scrittura o è stato appena modificato. Verrà inviato dopo due secondi senza modifiche.</translation>
         </message>
+        <message id="VTULocalization.klFolderSilent">
+            <source>&quot;$1&quot; does not answer yet. You can wait, choose another folder, or cancel.</source>
+            <translation>«$1» non risponde ancora. È possibile attendere, scegliere un'altra cartella o annullare.</translation>
+        </message>
         <message id="VTULocalization.klSpanSeconds">
             <source>$1 s</source>
             <translation>$1 s</translation>

@@ -855,6 +855,10 @@ This is the folder where processed files will be stored.</source>
             <source>It is still being written, or changed a moment ago. It is sent when it has been at rest for two seconds.</source>
             <translation>まだ書き込み中か、変更されたばかりです。2秒間変更がなければ送信されます。</translation>
         </message>
+        <message id="VTULocalization.klFolderSilent">
+            <source>&quot;$1&quot; does not answer yet. You can wait, choose another folder, or cancel.</source>
+            <translation>「$1」はまだ応答していません。待つか、別のフォルダーを選ぶか、キャンセルできます。</translation>
+        </message>
         <message id="VTULocalization.klSpanSeconds">
             <source>$1 s</source>
             <translation>$1 秒</translation>

@@ -855,6 +855,10 @@ In deze map worden verwerkte bestanden bewaard.</translation>
             <source>It is still being written, or changed a moment ago. It is sent when it has been at rest for two seconds.</source>
             <translation>Het wordt nog geschreven of is zojuist gewijzigd. Het wordt verzonden als het twee seconden ongewijzigd is.</translation>
         </message>
+        <message id="VTULocalization.klFolderSilent">
+            <source>&quot;$1&quot; does not answer yet. You can wait, choose another folder, or cancel.</source>
+            <translation>“$1” antwoordt nog niet. U kunt wachten, een andere map kiezen of annuleren.</translation>
+        </message>
         <message id="VTULocalization.klSpanSeconds">
             <source>$1 s</source>
             <translation>$1 s</translation>

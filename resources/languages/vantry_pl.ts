@@ -855,6 +855,10 @@ W tym folderze będą zapisywane przetworzone pliki.</translation>
             <source>It is still being written, or changed a moment ago. It is sent when it has been at rest for two seconds.</source>
             <translation>Jest jeszcze zapisywany albo został przed chwilą zmieniony. Zostanie wysłany po dwóch sekundach bez zmian.</translation>
         </message>
+        <message id="VTULocalization.klFolderSilent">
+            <source>&quot;$1&quot; does not answer yet. You can wait, choose another folder, or cancel.</source>
+            <translation>„$1” jeszcze nie odpowiada. Można poczekać, wybrać inny folder lub anulować.</translation>
+        </message>
         <message id="VTULocalization.klSpanSeconds">
             <source>$1 s</source>
             <translation>$1 s</translation>

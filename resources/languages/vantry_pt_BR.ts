@@ -855,6 +855,10 @@ Nesta pasta serão guardados os arquivos processados.</translation>
             <source>It is still being written, or changed a moment ago. It is sent when it has been at rest for two seconds.</source>
             <translation>Ainda está sendo gravado ou acabou de ser alterado. Será enviado após dois segundos sem alterações.</translation>
         </message>
+        <message id="VTULocalization.klFolderSilent">
+            <source>&quot;$1&quot; does not answer yet. You can wait, choose another folder, or cancel.</source>
+            <translation>“$1” ainda não responde. Você pode esperar, escolher outra pasta ou cancelar.</translation>
+        </message>
         <message id="VTULocalization.klSpanSeconds">
             <source>$1 s</source>
             <translation>$1 s</translation>

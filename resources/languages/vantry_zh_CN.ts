@@ -855,6 +855,10 @@ This is the folder where processed files will be stored.</source>
             <source>It is still being written, or changed a moment ago. It is sent when it has been at rest for two seconds.</source>
             <translation>仍在写入或刚刚更改过。两秒内没有变化后将会发送。</translation>
         </message>
+        <message id="VTULocalization.klFolderSilent">
+            <source>&quot;$1&quot; does not answer yet. You can wait, choose another folder, or cancel.</source>
+            <translation>“$1”尚未响应。您可以等待、选择其他文件夹或取消。</translation>
+        </message>
         <message id="VTULocalization.klSpanSeconds">
             <source>$1 s</source>
             <translation>$1 秒</translation>

@@ -1,6 +1,11 @@
 #include "platform/MountTable.h"
 
+#include <unistd.h>
+
 #include <QFile>
+#include <algorithm>
+#include <climits>
+#include <string_view>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -61,4 +66,41 @@ QByteArray MountTable::missingFor(const QByteArray& path, const QByteArray& reme
   for (const QByteArray& point : m_wanted)
     if (missing(point)) return point;
   return missing(remembered) ? remembered : QByteArray();
+}
+
+/// File systems that answer by themselves: disks, memory, and the kernel's own.
+static bool isLocal(const MountEntry& entry) {
+  static constexpr std::string_view Types[]{
+      "aufs",   "bcachefs", "btrfs", "cgroup",  "cgroup2", "devpts",  "devtmpfs", "ecryptfs", "erofs",
+      "exfat",  "ext2",     "ext3",  "ext4",    "f2fs",    "hfsplus", "iso9660",  "jfs",      "msdos",
+      "nilfs2", "ntfs",     "ntfs3", "overlay", "proc",    "ramfs",   "reiserfs", "rootfs",   "squashfs",
+      "sysfs",  "tmpfs",    "udf",   "vfat",    "xfs",     "zfs"};
+  return std::ranges::find(Types, std::string_view(entry.type.constData(), entry.type.size())) != std::end(Types);
+}
+
+bool MountTable::leadsToShare(const QByteArray& path) const {
+  constexpr int MostLinks = 40;  // the kernel's own bound
+  QByteArray walked;             // free of links; empty for the root
+  QList<QByteArray> ahead = path.split('/');
+  int links = 0;
+  while (isLocal(entryOf(walked.isEmpty() ? "/" : walked))) {
+    if (ahead.isEmpty()) return false;
+    const QByteArray name = ahead.takeFirst();
+    if (name.isEmpty() || name == ".") continue;
+    if (name == "..") {
+      walked.truncate(qMax(walked.lastIndexOf('/'), 0));
+      continue;
+    }
+    const QByteArray next = walked + '/' + name;
+    char target[PATH_MAX];
+    const ssize_t size = isLocal(entryOf(next)) ? ::readlink(next.constData(), target, sizeof target) : -1;
+    if (size < 0) {
+      walked = next;
+      continue;
+    }
+    if (++links > MostLinks) return false;  // leads nowhere
+    if (target[0] == '/') walked.clear();
+    ahead = QByteArray(target, size).split('/') + ahead;
+  }
+  return true;
 }

@@ -27,6 +27,9 @@ class MountTable {
   /// automounter's, or `remembered`, that of an earlier look. Empty if all is as it should be. A `remembered` "/" takes
   /// the path as it is, unless an automounter answers for it.
   [[nodiscard]] QByteArray missingFor(const QByteArray& path, const QByteArray& remembered) const;
+  /// True if `path`, absolute and perhaps with links in it, leads to a file system that waits for a server or for
+  /// another program, or that isn't known. Looks at local links on the way and at nothing else.
+  [[nodiscard]] bool leadsToShare(const QByteArray& path) const;
 
  private:
   QList<MountEntry> m_mounted;

@@ -1,16 +1,23 @@
 #include "widgets/PathChooser.h"
 
 #include <QDir>
-#include <QFileDialog>
 #include <QFileIconProvider>
 #include <QGridLayout>
 #include <QLabel>
+
+#include "widgets/GuardedFileDialog.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 constexpr int LimitMs = 400;
 
 PathChooser::PathChooser(QWidget* window) : QObject(window), m_window(window), m_question("chooser", this) {}
+
+PathChooser::~PathChooser() {
+  if (!m_dialog) return;
+  m_dialog->disconnect(this);
+  m_dialog->retire();
+}
 
 void PathChooser::choose(What what, const Texts& texts, const std::optional<FolderItem>& initial,
                          std::function<void(const std::optional<FolderItem>&)> done) {
@@ -51,11 +58,8 @@ static void addPrompt(QFileDialog& dialog, const QString& prompt) {
 }
 
 void PathChooser::open(What what, const Texts& texts, const QString& directory) {
-  auto* const dialog = new QFileDialog(m_window, texts.title, directory);
+  auto* const dialog = new GuardedFileDialog(m_window, texts.title, directory);
   m_dialog = dialog;
-  dialog->setAttribute(Qt::WA_DeleteOnClose);
-  // The toolkit's own: it shows the prompt, and it reads folders on a thread.
-  dialog->setOption(QFileDialog::DontUseNativeDialog);
   dialog->setOption(QFileDialog::DontUseCustomDirectoryIcons);
   static auto* const icons = new PlainIcons;  // never destroyed: the dialog's thread asks it, too
   dialog->setIconProvider(icons);
@@ -78,9 +82,11 @@ void PathChooser::open(What what, const Texts& texts, const QString& directory) 
   addPrompt(*dialog, texts.prompt);
   connect(dialog, &QFileDialog::finished, this, [this, dialog](int result) {
     std::optional<FolderItem> chosen;
-    const QStringList files = dialog->selectedFiles();
-    if (result == QDialog::Accepted && !files.isEmpty()) chosen = FolderItem::fromNativePath(files.first());
+    if (result == QDialog::Accepted)  // to ask what is selected is to look at it
+      if (const QStringList files = dialog->selectedFiles(); !files.isEmpty())
+        chosen = FolderItem::fromNativePath(files.first());
     m_dialog = nullptr;
+    dialog->retire();
     if (const auto done = std::exchange(m_done, {})) done(chosen);
   });
   dialog->open();

@@ -1,7 +1,7 @@
 #pragma once
 // Lets the user choose a folder, a file or the name of a new one, modal to one window, without ever waiting for a share
 // on the main thread: the place where the dialog begins is asked for in the background, and left out if it doesn't
-// answer. Main thread.
+// answer; from then on the dialog guards itself. Main thread.
 
 #include <QPointer>
 #include <QWidget>
@@ -11,7 +11,7 @@
 #include "platform/FolderItem.h"
 #include "widgets/BackgroundCall.h"
 
-class QFileDialog;
+class GuardedFileDialog;
 
 class PathChooser : public QObject {
  public:
@@ -21,6 +21,8 @@ class PathChooser : public QObject {
     QString proposedName = {};  ///< of a new file
   };
   explicit PathChooser(QWidget* window);
+  /// Closes an open dialog; `done` is not called.
+  ~PathChooser() override;
 
   /// Shows the dialog, beginning in `initial` if that is a folder that answers. `done` is called once, with nothing
   /// when the user cancelled. While one is open another isn't begun.
@@ -32,6 +34,6 @@ class PathChooser : public QObject {
 
   QWidget* m_window;
   BackgroundCall m_question;
-  QPointer<QFileDialog> m_dialog;
+  QPointer<GuardedFileDialog> m_dialog;
   std::function<void(const std::optional<FolderItem>&)> m_done;
 };

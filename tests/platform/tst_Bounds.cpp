@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 
 #include <QElapsedTimer>
+#include <QTemporaryDir>
 #include <array>
 #include <cmath>
 #include <limits>
@@ -215,6 +216,31 @@ class tst_Bounds : public QObject {
     for (const FolderItem& below : {home.item(u"file"_s), home.item(u"file/below"_s)})
       QCOMPARE(SpecialFolder::createPrivate(below).error, ENOTDIR);
     QCOMPARE(TemporaryHome::readFile(home.path(u"file"_s)), "the user's"_ba);
+  }
+
+  void aPathThatLeadsToAShare() {
+    const QTemporaryDir home;
+    const auto link = [&](const char* target, const char* name) {
+      if (!QFile::link(QString::fromUtf8(target), home.filePath(QString::fromUtf8(name)))) qFatal("no link");
+    };
+    link("/mnt/nas/in", "over a link");
+    link("over a link", "over two links");
+    link("in a circle", "in a circle");
+    link("..", "back");
+    const MountTable table(
+        "22 1 8:1 / / rw - ext4 /dev/sda1 rw\n30 22 0:40 / /mnt/nas rw - nfs4 server:/a rw\n"
+        "31 30 0:41 / /mnt/nas/local rw - tmpfs tmpfs rw\n32 22 0:42 / /auto rw - autofs systemd-1 rw\n"
+        "33 22 0:43 / /run/gvfs rw - fuse.gvfsd-fuse gvfsd-fuse rw\n34 22 0:44 / /home/nas rw - newfs x rw\n",
+        "");
+    for (const char* const path :
+         {"/mnt/nas", "/mnt/nas/local/x", "/mnt/nas/..", "/auto", "/run/gvfs/x", "/home/nas", "/mnt/./x/../nas"})
+      QVERIFY2(table.leadsToShare(path), path);
+    for (const char* const path : {"/", "/mnt", "/mnt/nas2", "/mnt/x/../../home"})
+      QVERIFY2(!table.leadsToShare(path), path);
+    const QByteArray at = home.path().toUtf8() + '/';
+    for (const char* const path : {"over a link", "over two links/x", "no/../over a link"})
+      QVERIFY2(table.leadsToShare(at + path), path);
+    for (const char* const path : {"", "no", "in a circle/x", "back/x"}) QVERIFY2(!table.leadsToShare(at + path), path);
   }
 };
 

@@ -1,0 +1,202 @@
+// The file chooser while a share hangs: each way into a folder and out of it, choosing, and closing the dialog.
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFileSystemModel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QToolButton>
+#include <QTreeView>
+
+#include "support/DialogAnswers.h"
+#include "support/HangingShare.h"
+#include "support/ProgramHome.h"
+#include "support/TestRunner.h"
+#include "widgets/PathChooser.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// A chooser that is open in a local folder, in which a share is mounted, and that knows what lies in either.
+class OpenChooser {
+ public:
+  explicit OpenChooser(PathChooser::What what = PathChooser::What::Folder, bool listed = true) {
+    home.makeFolder(u"local/hanging-share/in"_s);
+    window.show();
+    const PathChooser::Texts texts{u"t"_s, u"Select"_s, u"Cancel"_s, u"p"_s, u"log.txt"_s};
+    chooser = std::make_unique<PathChooser>(&window);
+    chooser->choose(what, texts, FolderItem::fromNativePath(local), [this](const auto& item) {
+      ended = true;
+      chosen = item ? item->NativePath() : QString();
+    });
+    [&] { QTRY_VERIFY((dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget()))); }();
+    dialog->setViewMode(QFileDialog::Detail);
+    if (listed) [&] { QTRY_VERIFY(row(u"hanging-share"_s).isValid()); }();
+  }
+  ~OpenChooser() {
+    chooser.reset();
+    [&] { QTRY_VERIFY2(!dialog, "a dialog that is closed goes"); }();
+  }
+  template <typename Widget>
+  Widget* part(const char* name) {
+    return dialog->findChild<Widget*>(QString::fromLatin1(name));
+  }
+  QModelIndex row(const QString& name) {
+    const auto* const view = part<QListView>("listView");
+    const QModelIndexList found =
+        view->model()->match(view->model()->index(0, 0, view->rootIndex()), Qt::DisplayRole, name, 1, Qt::MatchExactly);
+    return found.value(0);
+  }
+  void type(const QString& text) {
+    part<QLineEdit>("fileNameEdit")->clear();
+    QTest::keyClicks(part<QLineEdit>("fileNameEdit"), text);
+    QTest::keyClick(part<QLineEdit>("fileNameEdit"), Qt::Key_Return);
+  }
+  void activate(const char* view, const QString& name) {
+    auto* const shown = part<QAbstractItemView>(view);
+    shown->setCurrentIndex(row(name));
+    QTest::keyClick(shown, Qt::Key_Return);
+  }
+  void press(QDialogButtonBox::StandardButton button) { part<QDialogButtonBox>("buttonBox")->button(button)->click(); }
+  /// What the dialog says of a folder that gives no answer.
+  QString line() {
+    const auto* const label = part<QLabel>("SilentFolderText");
+    return label->isVisible() ? label->text() : QString();
+  }
+
+  ProgramHome home;
+  const QString local = home.path(u"local"_s), share = local + u"/hanging-share"_s;
+  const MountedShare mounted{share};
+  QWidget window;
+  std::unique_ptr<PathChooser> chooser;
+  QPointer<QFileDialog> dialog;
+  bool ended = false;
+  QString chosen;
+};
+
+using Step = std::function<void(OpenChooser&)>;
+
+}  // namespace
+
+class tst_PathChooser : public QObject {
+  Q_OBJECT
+ private slots:
+  void eachStepWaitsForTheShareInTheBackground_data() {
+    addColumns<QString, Step, QString>("begin", "step", "end");
+    const auto row = [](const char* label, const QString& begin, Step step, const QString& end) {
+      QTest::newRow(label) << begin << step << end;
+    };
+    const QString share = u"/hanging-share"_s, in = share + u"/in"_s;
+    row(
+        "a row of the list", {},
+        [](auto& it) {
+          it.dialog->setViewMode(QFileDialog::List);
+          it.activate("listView", u"hanging-share"_s);
+        },
+        share);
+    row(
+        "a row of the table", {}, [](auto& it) { it.activate("treeView", u"hanging-share"_s); }, share);
+    row(
+        "typed", {}, [](auto& it) { it.type(it.share + u"/in"_s); }, u"chosen "_s + in);
+    row(
+        "chosen", {},
+        [](auto& it) {
+          it.template part<QAbstractItemView>("treeView")->setFocus();
+          it.template part<QAbstractItemView>("treeView")->setCurrentIndex(it.row(u"hanging-share"_s));
+          it.press(QDialogButtonBox::Open);
+        },
+        u"chosen "_s + share);
+    row(
+        "back", in,
+        [](auto& it) {
+          it.dialog->setDirectory(it.local);
+          it.template part<QToolButton>("backButton")->click();
+        },
+        in);
+    row(
+        "a place at the side", {},
+        [](auto& it) {
+          auto* const side = it.template part<QListView>("sidebar");
+          const QModelIndex last = side->model()->index(side->model()->rowCount() - 1, 0);
+          QTest::mouseClick(side->viewport(), Qt::LeftButton, {}, side->visualRect(last).center());
+        },
+        in);
+    row(
+        "a place above", in,
+        [](auto& it) {
+          auto* const places = it.template part<QComboBox>("lookInCombo");
+          places->showPopup();
+          places->hidePopup();
+          places->setCurrentIndex(1);
+          emit places->activated(1);
+          emit places->textActivated(places->currentText());
+        },
+        share);
+    row(
+        "up", in, [](auto& it) { QTest::keyClick(it.template part<QTreeView>("treeView"), Qt::Key_Backspace); }, share);
+    row(
+        "up by two dots", in, [](auto& it) { it.type(u".."_s); }, share);
+    row(
+        "inside of it", share, [](auto& it) { it.activate("treeView", u"in"_s); }, in);
+    row(
+        "out of it", in, [](auto& it) { it.type(it.local); }, u"chosen"_s);
+  }
+  void eachStepWaitsForTheShareInTheBackground() {
+    QFETCH(QString, begin);
+    QFETCH(Step, step);
+    QFETCH(QString, end);
+    OpenChooser it;
+    // A file that is known before its folder is listed is looked at when its row is painted.
+    if (begin.isEmpty())
+      it.dialog->setSidebarUrls({QUrl::fromLocalFile(it.home.path()), QUrl::fromLocalFile(it.share + u"/in"_s)});
+    if (!begin.isEmpty()) {
+      it.dialog->setDirectory(it.local + begin);
+      if (begin.endsWith(u"share")) QTRY_VERIFY(it.row(u"in"_s).isValid());
+    }
+    {
+      const HangingShare hangs;
+      step(it);
+      if (end != u"chosen") QTRY_VERIFY_WITH_TIMEOUT(it.line().contains(end.sliced(end.lastIndexOf(u'/') + 1)), 5000);
+      QCOMPARE(HangingShare::callsByMainThread(), 0);
+      QCOMPARE(it.ended, end == u"chosen");
+    }
+    if (end.startsWith(u"chosen")) {
+      QTRY_VERIFY(it.ended);
+      QCOMPARE(it.chosen, it.local + end.sliced(6).trimmed());
+    } else {
+      QTRY_COMPARE(it.dialog->directory().path(), it.local + end);
+      QVERIFY(it.line().isEmpty());
+    }
+  }
+
+  void cancellingWaitsForNothing_data() {
+    addColumns<PathChooser::What, bool, bool>("what", "listed", "byWindow");
+    QTest::newRow("while a folder is asked") << PathChooser::What::Folder << true << false;
+    QTest::newRow("while a file is saved") << PathChooser::What::NewFile << true << false;
+    QTest::newRow("while the list is read") << PathChooser::What::Folder << false << false;
+    QTest::newRow("the window goes") << PathChooser::What::Folder << false << true;
+  }
+  void cancellingWaitsForNothing() {
+    QFETCH(PathChooser::What, what);
+    QFETCH(bool, listed);
+    QFETCH(bool, byWindow);
+    auto hangs = listed ? nullptr : std::make_unique<HangingShare>();
+    OpenChooser it(what, listed);
+    if (!hangs) hangs = std::make_unique<HangingShare>();
+    if (listed) it.type(u"hanging-share/log.txt"_s);
+    QTRY_VERIFY_WITH_TIMEOUT(!it.line().isEmpty() && HangingShare::waiting() > 0, 10000);
+    byWindow ? it.chooser.reset() : it.press(QDialogButtonBox::Cancel);
+    QVERIFY(it.ended != byWindow && it.chosen.isEmpty());
+    QVERIFY(!QApplication::activeModalWidget());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(HangingShare::callsByMainThread(), 0);
+    QVERIFY2(listed || it.dialog, "its thread still hangs");
+    hangs.reset();
+  }
+};
+
+VANTRY_TEST(tst_PathChooser);
+#include "tst_PathChooser.moc"
