@@ -88,8 +88,8 @@ UploaderTask::FolderLook UploaderTask::lookAtInputFolder() {
   }
   Problems::clear(Problem::Kind::InputFolderUnreadable, Name);
   const std::lock_guard lock(m_ledgerMutex);
-  if (m_ledgerClearings != m_clearings) m_ledger = {};
-  m_ledgerClearings = m_clearings;
+  if (m_ledgerClearings != *m_clearings) m_ledger = {};
+  m_ledgerClearings = *m_clearings;
   look.files = readLedger().look(listing.files, dateLimit, look.began, clock.monotonicMs());
   return look;
 }
@@ -150,7 +150,8 @@ void UploaderTask::storeLedger(std::optional<double> limit) {
     if (m_heir) return;  // it knows more by now
     const std::lock_guard storing(memoryMutex);
     const DueLimit stored = lockedDueLimit(Name);
-    if (stored.clearings != m_clearings || stored.seconds < dateLimit) return;  // cleared: all is due again
+    const bool cleared = m_clearings && stored.clearings != *m_clearings;
+    if (cleared || stored.seconds < dateLimit) return;  // all is due again
     if (limit) VantryUtil::prefs->setDoubleValue(limitKey(Name), *limit);
     VantryUtil::prefs->setStringValue(ledgerKey(Name, inputFolderPath), readLedger().toText());
   }

@@ -182,11 +182,11 @@ class UploaderTask {
   BatchLedger& readLedger();
   void storeLedger(std::optional<double> limit);
   mutable std::mutex m_ledgerMutex;  // guards the four below
-  TaskPointer m_heir;                // written under the other guard as well, under which it may be read too
+  TaskPointer m_heir;                // written under m_mountMutex as well, so that either guards a reading
   BatchLedger m_ledger;
   bool m_ledgerRead = false;
   quint64 m_ledgerClearings = 0;         // of the limit, when the ledger was last asked
-  quint64 m_clearings = 0;               // of the limit, when dateLimit was read
+  std::optional<quint64> m_clearings;    // of the limit, once dateLimit was read
   mutable std::mutex m_mountMutex;       // guards the three below
   QByteArray m_inputPath, m_outputPath;  // free of links, at the last good look
   QByteArray m_mounts;                   // on which the folders lay when the last look began
