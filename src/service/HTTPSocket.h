@@ -34,6 +34,7 @@ struct HttpFailure {
   QString detail;        ///< words for a person; names the peer, never a secret
   QString peer{};        ///< host:port that was spoken to; empty before the first step
   bool atProxy = false;  ///< `peer` is the proxy
+  bool requestCut = false;  ///< the service had not got the request, whole
   [[nodiscard]] bool failed() const { return phase != Phase::None; }
 };
 
