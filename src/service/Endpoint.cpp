@@ -27,11 +27,12 @@ void VantryUtil::setAccountURL(const QString& url) {
   accountUrl() = url;
 }
 
-bool VantryUtil::ResolveAccountURL(HttpFailure* failure) {
+bool VantryUtil::ResolveAccountURL(HttpFailure* failure, QString* err) {
   const QString method = u"Get_API_URL"_s, loginKey = u"SoapLogin"_s;
   const QString login = storedPreference(loginKey);
-  QString err;
-  const std::optional<Dictionary> reply = VTSoap(method, err, {}, {}, failure);
+  QString said;
+  const std::optional<Dictionary> reply = VTSoap(method, said, {}, {}, failure);
+  if (err) *err = said;
   if (!reply || storedPreference(loginKey) != login) return false;  // the answer for a login replaced meanwhile
   setAccountURL(reply->Lookup(method, DefaultAPIEndpoint()).toString());
   return true;
