@@ -359,6 +359,10 @@ Dann werden alle Dateien im Eingabeordner verarbeitet, unabhängig von ihrem Alt
             <source>Task &quot;$1&quot; could not save a copy: $2. The input file was not deleted. Check the output folder.</source>
             <translation>Die Aufgabe „$1“ konnte keine Kopie speichern: $2. Die Eingabedatei wurde nicht gelöscht. Prüfen Sie den Ausgabeordner.</translation>
         </message>
+        <message id="VTULocalization.klStripDeleteFailed">
+            <source>Task &quot;$1&quot; sent a file but could not delete it: $2. Check the permissions of the input folder and delete the file yourself.</source>
+            <translation>Die Aufgabe „$1“ hat eine Datei gesendet, konnte sie aber nicht löschen: $2. Prüfen Sie die Rechte am Eingabeordner und löschen Sie die Datei selbst.</translation>
+        </message>
         <message id="VTULocalization.klStripUploadFailed">
             <source>Task &quot;$1&quot; could not send a file: $2. When this is repaired, save the file into the input folder again.</source>
             <translation>Die Aufgabe „$1“ konnte eine Datei nicht senden: $2. Wenn das behoben ist, speichern Sie die Datei noch einmal in den Eingabeordner.</translation>
@@ -370,6 +374,10 @@ Dann werden alle Dateien im Eingabeordner verarbeitet, unabhängig von ihrem Alt
         <message id="VTULocalization.klStripServiceUnreachable">
             <source>The service can't be reached: $2. It is tried again by itself; check the network and the proxy settings.</source>
             <translation>Der Dienst ist nicht erreichbar: $2. Es wird von selbst weiter versucht; prüfen Sie das Netzwerk und die Proxy-Einstellungen.</translation>
+        </message>
+        <message id="VTULocalization.klStripServiceRefuses">
+            <source>The service answers with an error: $2. It is asked again by itself; check the login under Admin.</source>
+            <translation>Der Dienst antwortet mit einem Fehler: $2. Es wird von selbst weiter versucht; prüfen Sie die Zugangsdaten unter Admin.</translation>
         </message>
         <message id="VTULocalization.klMountNoSession">
             <source>there is no desktop session with a mount service</source>

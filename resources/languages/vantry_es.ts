@@ -359,6 +359,10 @@ Se procesarán todos los archivos de la carpeta de entrada, sea cual sea su anti
             <source>Task &quot;$1&quot; could not save a copy: $2. The input file was not deleted. Check the output folder.</source>
             <translation>La tarea «$1» no pudo guardar una copia: $2. El archivo de entrada no se eliminó. Compruebe la carpeta de salida.</translation>
         </message>
+        <message id="VTULocalization.klStripDeleteFailed">
+            <source>Task &quot;$1&quot; sent a file but could not delete it: $2. Check the permissions of the input folder and delete the file yourself.</source>
+            <translation>La tarea «$1» envió un archivo pero no pudo eliminarlo: $2. Compruebe los permisos de la carpeta de entrada y elimine usted el archivo.</translation>
+        </message>
         <message id="VTULocalization.klStripUploadFailed">
             <source>Task &quot;$1&quot; could not send a file: $2. When this is repaired, save the file into the input folder again.</source>
             <translation>La tarea «$1» no pudo enviar un archivo: $2. Cuando esté resuelto, guarde de nuevo el archivo en la carpeta de entrada.</translation>
@@ -370,6 +374,10 @@ Se procesarán todos los archivos de la carpeta de entrada, sea cual sea su anti
         <message id="VTULocalization.klStripServiceUnreachable">
             <source>The service can't be reached: $2. It is tried again by itself; check the network and the proxy settings.</source>
             <translation>No se puede acceder al servicio: $2. Se volverá a intentar automáticamente; compruebe la red y los ajustes del proxy.</translation>
+        </message>
+        <message id="VTULocalization.klStripServiceRefuses">
+            <source>The service answers with an error: $2. It is asked again by itself; check the login under Admin.</source>
+            <translation>El servicio responde con un error: $2. Se volverá a intentar automáticamente; compruebe el usuario del servicio en Admin.</translation>
         </message>
         <message id="VTULocalization.klMountNoSession">
             <source>there is no desktop session with a mount service</source>

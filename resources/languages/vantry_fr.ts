@@ -359,6 +359,10 @@ Tous les fichiers du dossier d’entrée seront alors traités, quel que soit le
             <source>Task &quot;$1&quot; could not save a copy: $2. The input file was not deleted. Check the output folder.</source>
             <translation>La tâche « $1 » n’a pas pu enregistrer de copie : $2. Le fichier d’entrée n’a pas été supprimé. Vérifiez le dossier de sortie.</translation>
         </message>
+        <message id="VTULocalization.klStripDeleteFailed">
+            <source>Task &quot;$1&quot; sent a file but could not delete it: $2. Check the permissions of the input folder and delete the file yourself.</source>
+            <translation>La tâche « $1 » a envoyé un fichier mais n’a pas pu le supprimer : $2. Vérifiez les droits sur le dossier d’entrée et supprimez le fichier vous-même.</translation>
+        </message>
         <message id="VTULocalization.klStripUploadFailed">
             <source>Task &quot;$1&quot; could not send a file: $2. When this is repaired, save the file into the input folder again.</source>
             <translation>La tâche « $1 » n’a pas pu envoyer un fichier : $2. Une fois le problème résolu, enregistrez de nouveau le fichier dans le dossier d’entrée.</translation>
@@ -370,6 +374,10 @@ Tous les fichiers du dossier d’entrée seront alors traités, quel que soit le
         <message id="VTULocalization.klStripServiceUnreachable">
             <source>The service can't be reached: $2. It is tried again by itself; check the network and the proxy settings.</source>
             <translation>Le service est injoignable : $2. De nouveaux essais ont lieu automatiquement ; vérifiez le réseau et les réglages du proxy.</translation>
+        </message>
+        <message id="VTULocalization.klStripServiceRefuses">
+            <source>The service answers with an error: $2. It is asked again by itself; check the login under Admin.</source>
+            <translation>Le service répond par une erreur : $2. De nouveaux essais ont lieu automatiquement ; vérifiez le login sous Admin.</translation>
         </message>
         <message id="VTULocalization.klMountNoSession">
             <source>there is no desktop session with a mount service</source>

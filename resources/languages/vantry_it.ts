@@ -359,6 +359,10 @@ Tutti i file della cartella di input verranno elaborati, indipendentemente dalla
             <source>Task &quot;$1&quot; could not save a copy: $2. The input file was not deleted. Check the output folder.</source>
             <translation>L’attività «$1» non ha potuto salvare una copia: $2. Il file di input non è stato eliminato. Controllare la cartella di output.</translation>
         </message>
+        <message id="VTULocalization.klStripDeleteFailed">
+            <source>Task &quot;$1&quot; sent a file but could not delete it: $2. Check the permissions of the input folder and delete the file yourself.</source>
+            <translation>L’attività «$1» ha inviato un file ma non ha potuto eliminarlo: $2. Controllare i permessi della cartella di input ed eliminare il file a mano.</translation>
+        </message>
         <message id="VTULocalization.klStripUploadFailed">
             <source>Task &quot;$1&quot; could not send a file: $2. When this is repaired, save the file into the input folder again.</source>
             <translation>L’attività «$1» non ha potuto inviare un file: $2. Risolto il problema, salvare di nuovo il file nella cartella di input.</translation>
@@ -370,6 +374,10 @@ Tutti i file della cartella di input verranno elaborati, indipendentemente dalla
         <message id="VTULocalization.klStripServiceUnreachable">
             <source>The service can't be reached: $2. It is tried again by itself; check the network and the proxy settings.</source>
             <translation>Il servizio non è raggiungibile: $2. Nuovi tentativi avvengono automaticamente; controllare la rete e le impostazioni del proxy.</translation>
+        </message>
+        <message id="VTULocalization.klStripServiceRefuses">
+            <source>The service answers with an error: $2. It is asked again by itself; check the login under Admin.</source>
+            <translation>Il servizio risponde con un errore: $2. Nuovi tentativi avvengono automaticamente; controllare il login in Admin.</translation>
         </message>
         <message id="VTULocalization.klMountNoSession">
             <source>there is no desktop session with a mount service</source>

@@ -359,6 +359,10 @@ This will force all files in the input folder to be processed regardless of age 
             <source>Task &quot;$1&quot; could not save a copy: $2. The input file was not deleted. Check the output folder.</source>
             <translation>タスク「$1」はコピーを保存できませんでした: $2。入力ファイルは削除されていません。出力フォルダーを確認してください。</translation>
         </message>
+        <message id="VTULocalization.klStripDeleteFailed">
+            <source>Task &quot;$1&quot; sent a file but could not delete it: $2. Check the permissions of the input folder and delete the file yourself.</source>
+            <translation>タスク「$1」はファイルを送信しましたが、削除できませんでした: $2。入力フォルダーのアクセス権を確認し、ファイルを手動で削除してください。</translation>
+        </message>
         <message id="VTULocalization.klStripUploadFailed">
             <source>Task &quot;$1&quot; could not send a file: $2. When this is repaired, save the file into the input folder again.</source>
             <translation>タスク「$1」はファイルを送信できませんでした: $2。解決したら、ファイルを入力フォルダーにもう一度保存してください。</translation>
@@ -370,6 +374,10 @@ This will force all files in the input folder to be processed regardless of age 
         <message id="VTULocalization.klStripServiceUnreachable">
             <source>The service can't be reached: $2. It is tried again by itself; check the network and the proxy settings.</source>
             <translation>サービスに接続できません: $2。自動的に再試行されます。ネットワークとプロキシの設定を確認してください。</translation>
+        </message>
+        <message id="VTULocalization.klStripServiceRefuses">
+            <source>The service answers with an error: $2. It is asked again by itself; check the login under Admin.</source>
+            <translation>サービスがエラーを返しました: $2。自動的に再試行されます。「管理」でログイン情報を確認してください。</translation>
         </message>
         <message id="VTULocalization.klMountNoSession">
             <source>there is no desktop session with a mount service</source>

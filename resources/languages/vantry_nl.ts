@@ -359,6 +359,10 @@ Alle bestanden in de invoermap worden dan verwerkt, ongeacht hun leeftijd en ook
             <source>Task &quot;$1&quot; could not save a copy: $2. The input file was not deleted. Check the output folder.</source>
             <translation>Taak “$1” kon geen kopie opslaan: $2. Het invoerbestand is niet verwijderd. Controleer de uitvoermap.</translation>
         </message>
+        <message id="VTULocalization.klStripDeleteFailed">
+            <source>Task &quot;$1&quot; sent a file but could not delete it: $2. Check the permissions of the input folder and delete the file yourself.</source>
+            <translation>Taak “$1” heeft een bestand verzonden maar kon het niet verwijderen: $2. Controleer de rechten van de invoermap en verwijder het bestand zelf.</translation>
+        </message>
         <message id="VTULocalization.klStripUploadFailed">
             <source>Task &quot;$1&quot; could not send a file: $2. When this is repaired, save the file into the input folder again.</source>
             <translation>Taak “$1” kon een bestand niet verzenden: $2. Sla het bestand opnieuw op in de invoermap als dit is verholpen.</translation>
@@ -370,6 +374,10 @@ Alle bestanden in de invoermap worden dan verwerkt, ongeacht hun leeftijd en ook
         <message id="VTULocalization.klStripServiceUnreachable">
             <source>The service can't be reached: $2. It is tried again by itself; check the network and the proxy settings.</source>
             <translation>De dienst is niet bereikbaar: $2. Er worden vanzelf nieuwe pogingen gedaan; controleer het netwerk en de proxy-instellingen.</translation>
+        </message>
+        <message id="VTULocalization.klStripServiceRefuses">
+            <source>The service answers with an error: $2. It is asked again by itself; check the login under Admin.</source>
+            <translation>De dienst antwoordt met een fout: $2. Er worden vanzelf nieuwe pogingen gedaan; controleer de login onder Beheer.</translation>
         </message>
         <message id="VTULocalization.klMountNoSession">
             <source>there is no desktop session with a mount service</source>

@@ -359,6 +359,10 @@ Zostaną wtedy przetworzone wszystkie pliki z folderu wejścia, niezależnie od 
             <source>Task &quot;$1&quot; could not save a copy: $2. The input file was not deleted. Check the output folder.</source>
             <translation>Zadanie „$1” nie mogło zapisać kopii: $2. Plik wejściowy nie został usunięty. Sprawdź folder wyjścia.</translation>
         </message>
+        <message id="VTULocalization.klStripDeleteFailed">
+            <source>Task &quot;$1&quot; sent a file but could not delete it: $2. Check the permissions of the input folder and delete the file yourself.</source>
+            <translation>Zadanie „$1” wysłało plik, ale nie mogło go usunąć: $2. Sprawdź uprawnienia do folderu wejścia i usuń plik samodzielnie.</translation>
+        </message>
         <message id="VTULocalization.klStripUploadFailed">
             <source>Task &quot;$1&quot; could not send a file: $2. When this is repaired, save the file into the input folder again.</source>
             <translation>Zadanie „$1” nie mogło wysłać pliku: $2. Po usunięciu przyczyny zapisz plik ponownie w folderze wejścia.</translation>
@@ -370,6 +374,10 @@ Zostaną wtedy przetworzone wszystkie pliki z folderu wejścia, niezależnie od 
         <message id="VTULocalization.klStripServiceUnreachable">
             <source>The service can't be reached: $2. It is tried again by itself; check the network and the proxy settings.</source>
             <translation>Usługa jest nieosiągalna: $2. Próby są ponawiane automatycznie; sprawdź sieć i ustawienia proxy.</translation>
+        </message>
+        <message id="VTULocalization.klStripServiceRefuses">
+            <source>The service answers with an error: $2. It is asked again by itself; check the login under Admin.</source>
+            <translation>Usługa odpowiada błędem: $2. Próby są ponawiane automatycznie; sprawdź login w oknie Admin.</translation>
         </message>
         <message id="VTULocalization.klMountNoSession">
             <source>there is no desktop session with a mount service</source>

@@ -359,6 +359,10 @@ Todos os arquivos da pasta de entrada serão processados, qualquer que seja a id
             <source>Task &quot;$1&quot; could not save a copy: $2. The input file was not deleted. Check the output folder.</source>
             <translation>A tarefa “$1” não conseguiu salvar uma cópia: $2. O arquivo de entrada não foi excluído. Verifique a pasta de saída.</translation>
         </message>
+        <message id="VTULocalization.klStripDeleteFailed">
+            <source>Task &quot;$1&quot; sent a file but could not delete it: $2. Check the permissions of the input folder and delete the file yourself.</source>
+            <translation>A tarefa “$1” enviou um arquivo, mas não conseguiu excluí-lo: $2. Verifique as permissões da pasta de entrada e exclua o arquivo você mesmo.</translation>
+        </message>
         <message id="VTULocalization.klStripUploadFailed">
             <source>Task &quot;$1&quot; could not send a file: $2. When this is repaired, save the file into the input folder again.</source>
             <translation>A tarefa “$1” não conseguiu enviar um arquivo: $2. Depois de resolver isso, salve o arquivo novamente na pasta de entrada.</translation>
@@ -370,6 +374,10 @@ Todos os arquivos da pasta de entrada serão processados, qualquer que seja a id
         <message id="VTULocalization.klStripServiceUnreachable">
             <source>The service can't be reached: $2. It is tried again by itself; check the network and the proxy settings.</source>
             <translation>Não é possível acessar o serviço: $2. Novas tentativas são automáticas; verifique a rede e as configurações do proxy.</translation>
+        </message>
+        <message id="VTULocalization.klStripServiceRefuses">
+            <source>The service answers with an error: $2. It is asked again by itself; check the login under Admin.</source>
+            <translation>O serviço responde com um erro: $2. Novas tentativas são automáticas; verifique o login em Admin.</translation>
         </message>
         <message id="VTULocalization.klMountNoSession">
             <source>there is no desktop session with a mount service</source>

@@ -359,6 +359,10 @@ This will force all files in the input folder to be processed regardless of age 
             <source>Task &quot;$1&quot; could not save a copy: $2. The input file was not deleted. Check the output folder.</source>
             <translation>任务“$1”未能保存副本：$2。输入文件未被删除。请检查输出文件夹。</translation>
         </message>
+        <message id="VTULocalization.klStripDeleteFailed">
+            <source>Task &quot;$1&quot; sent a file but could not delete it: $2. Check the permissions of the input folder and delete the file yourself.</source>
+            <translation>任务“$1”已发送文件，但未能将其删除：$2。请检查输入文件夹的权限，并自行删除该文件。</translation>
+        </message>
         <message id="VTULocalization.klStripUploadFailed">
             <source>Task &quot;$1&quot; could not send a file: $2. When this is repaired, save the file into the input folder again.</source>
             <translation>任务“$1”未能发送文件：$2。解决后请将该文件重新保存到输入文件夹。</translation>
@@ -370,6 +374,10 @@ This will force all files in the input folder to be processed regardless of age 
         <message id="VTULocalization.klStripServiceUnreachable">
             <source>The service can't be reached: $2. It is tried again by itself; check the network and the proxy settings.</source>
             <translation>无法连接服务：$2。程序会自动重试；请检查网络和代理设置。</translation>
+        </message>
+        <message id="VTULocalization.klStripServiceRefuses">
+            <source>The service answers with an error: $2. It is asked again by itself; check the login under Admin.</source>
+            <translation>服务返回错误：$2。程序会自动重试；请在“管理”中检查登录信息。</translation>
         </message>
         <message id="VTULocalization.klMountNoSession">
             <source>there is no desktop session with a mount service</source>

@@ -121,11 +121,12 @@ void Keeping::deleteInput(const QString& notes) {
   else if (!m_task.inputIsThere() || !isGone(m_sent.file))
     deleted = IoResult::failure(ENOTCONN, m_sent.file.NativePath());
   if (deleted.ok()) {
+    Problems::clear(Problem::Kind::DeleteFailed, m_task.Name);
     m_entry.setValue(u"Notes"_s, u"Uploaded to "_s + m_task.Warden + u" - Deleted Locally"_s);
     m_entry.setValue(u"NewName"_s, u"n/a"_s);
     return;
   }
-  Problems::raise(Problem::Kind::CopyFailed, m_task.Name, m_sent.file.Name() + u": "_s + deleted.message());
+  Problems::raise(Problem::Kind::DeleteFailed, m_task.Name, m_sent.file.Name() + u": "_s + deleted.message());
   m_entry.setValue(u"Notes"_s, notes + fillPlaceholders(VTULocalization::klDeleteFailedNote(), {deleted.message()}));
 }
 

@@ -94,9 +94,11 @@ void UploaderTask::TryAutoMount(bool input) {
   request.url = QString(url).replace(u' ', u"%20"_s);
   request.userName = input ? InputLogin : outputLogin;
   request.password = input ? inputPassword : outputPassword;
+  request.cancelled = &UploadThread::stopping;
   int errorCode = 0;
   const FolderCall call;
   const bool mounted = !mountNow(request, errorCode).trimmed().isEmpty();
+  if (!mounted && errorCode == MountError::Cancelled) return;  // the program ends
   const auto fresh = FolderItem::fromNativePath(path);
   setTriedAutoMount(!mounted || !fresh);
   if (mounted && fresh) handle = fresh;

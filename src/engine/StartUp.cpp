@@ -48,17 +48,42 @@ bool hasLogin() {
          !prefs->StringValue(u"SoapPassword"_s).trimmed().isEmpty();
 }
 
-void report(bool answered, const HttpFailure& failure) {
-  if (failure.failed())
-    Problems::raise(Problem::Kind::ServiceUnreachable, {}, failure.detail);
-  else if (answered)
+struct Outcome {
+  bool answered = false;
+  HttpFailure failure;
+  QString err;
+
+  /// True if the service answered with an error of its own, by which it is there all the same.
+  [[nodiscard]] bool refused() const {
+    return !answered && !failure.atProxy && err.startsWith(u'E', Qt::CaseInsensitive) && err != "err"_L1;
+  }
+};
+
+void report(const Outcome& outcome) {
+  if (outcome.answered || outcome.refused())
     Problems::clear(Problem::Kind::ServiceUnreachable, {});
+  else if (outcome.failure.failed())
+    Problems::raise(Problem::Kind::ServiceUnreachable, {}, outcome.failure.detail);
 }
 
-bool resolve(HttpFailure* failure) {
-  const bool answered = VantryUtil::ResolveAccountURL(failure);
-  report(answered, *failure);
-  return answered;
+Outcome resolve() {
+  Outcome outcome;
+  outcome.answered = VantryUtil::ResolveAccountURL(&outcome.failure, &outcome.err);
+  report(outcome);
+  if (outcome.refused() && hasLogin()) {
+    QString words = VantryUtil::errToString(outcome.err);
+    if (words.endsWith(u'.')) words.chop(1);
+    Problems::raise(Problem::Kind::ServiceRefuses, {}, outcome.err + u" - "_s + words);
+  } else {
+    Problems::clear(Problem::Kind::ServiceRefuses, {});
+  }
+  return outcome;
+}
+
+void fetch(bool (*list)(HttpFailure*, QString*)) {
+  Outcome outcome;
+  outcome.answered = list(&outcome.failure, &outcome.err);
+  report(outcome);  // that an account has no tracks is no fault
 }
 
 bool complete() {
@@ -73,21 +98,20 @@ void endHold() {
 
 /// Makes those calls again that have not succeeded for the present login.
 void fetchWhatIsMissing() {
-  HttpFailure failure;
-  const bool endpointKnown = hasLogin() && (!VantryUtil::AccountURL().trimmed().isEmpty() || resolve(&failure));
+  if (!hasLogin()) Problems::clear(Problem::Kind::ServiceRefuses, {});
+  const bool endpointKnown = hasLogin() && (!VantryUtil::AccountURL().trimmed().isEmpty() || resolve().answered);
   endHold();
   if (!endpointKnown) return;
-  if (!VTTrack::everFetched()) report(VantryUtil::TrackList(&failure), failure);
-  if (!VTInstrumentTrack::everFetched()) report(VantryUtil::InstrumentTrackList(&failure), failure);
+  if (!VTTrack::everFetched()) fetch(&VantryUtil::TrackList);
+  if (!VTInstrumentTrack::everFetched()) fetch(&VantryUtil::InstrumentTrackList);
 }
 
 void sequence(const StartUp::Events& events) {
   // The order matters: a file must not go to the default endpoint of an account that has one of its own, and the
   // tasks come last because the upload thread works as soon as there are any.
-  HttpFailure unreachable;
-  (void)resolve(&unreachable);  // a failure is told by the problem it raised, and tried again below
+  const Outcome endpoint = resolve();  // a failure is told by the problem it raised, and tried again below
   UploadThread::enable();
-  if (!unreachable.failed()) {  // where nobody answers, the tasks needn't wait for two more time-outs
+  if (!endpoint.failure.failed()) {  // where nobody answers, the tasks needn't wait for two more time-outs
     (void)VantryUtil::TrackList();
     (void)VantryUtil::InstrumentTrackList();
   }

@@ -17,9 +17,11 @@ static Rank rankOf(Problem::Kind kind) {
   switch (kind) {
     case Problem::Kind::TaskFolderUnreadable:
     case Problem::Kind::ServiceUnreachable:
+    case Problem::Kind::ServiceRefuses:
       return Rank::NothingIsSent;
     case Problem::Kind::UploadFailed:
     case Problem::Kind::CopyFailed:
+    case Problem::Kind::DeleteFailed:
     case Problem::Kind::RunFailed:
     case Problem::Kind::LogUnavailable:
     case Problem::Kind::LogRowLost:

@@ -128,8 +128,10 @@ bool concerns(const Problem& problem, const UploaderTask& task) {
   switch (problem.kind) {
     case Problem::Kind::NoLogin:
     case Problem::Kind::ServiceUnreachable:
+    case Problem::Kind::ServiceRefuses:
       return true;
     case Problem::Kind::CopyFailed:
+    case Problem::Kind::DeleteFailed:
     case Problem::Kind::UploadFailed:
     case Problem::Kind::RunFailed:
     case Problem::Kind::InputFolderUnreadable:

@@ -306,11 +306,19 @@ bool start(const MountingPointer& mounting) {
 
 }  // namespace
 
+/// True if a server with its port, or its name alone, may stand so before the first slash: no part of a login does.
+static bool maybeServer(QStringView text) {
+  const qsizetype colon = text.indexOf(u':', text.startsWith(u'[') ? qMax(text.indexOf(u']'), qsizetype(0)) : 0);
+  return colon < 0 || text.mid(colon + 1).toUShort() > 0;
+}
+
 QString shareForDisplay(const QString& url) {
   const qsizetype server = url.indexOf(u"//"_s) + 2;
   if (server < 2) return url.trimmed();
   const qsizetype end = url.indexOf(u'/', server);
-  const qsizetype at = url.lastIndexOf(u'@', end < 0 ? -1 : end);
+  qsizetype at = url.lastIndexOf(u'@', end < 0 ? -1 : end);
+  // A slash within the password, which had better been escaped.
+  if (at < server && end >= 0 && !maybeServer(QStringView(url).mid(server, end - server))) at = url.lastIndexOf(u'@');
   return (at < server ? url : url.left(server) + url.mid(at + 1)).trimmed();
 }
 

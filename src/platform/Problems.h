@@ -22,9 +22,11 @@ struct Problem {
     NothingMounted,         ///< subject: task; detail: the mount point that stands bare
     ShareNotMounted,        ///< subject: the share's address; detail: why
     CopyFailed,             ///< subject: task; detail: file and why
+    DeleteFailed,           ///< subject: task; detail: file and why
     UploadFailed,           ///< subject: task; detail: file and why
     RunFailed,              ///< subject: task; detail: the exception's words
     ServiceUnreachable,     ///< detail: from whom no answer came
+    ServiceRefuses,         ///< detail: the service's words
   };
   Kind kind;
   QString subject;

@@ -30,11 +30,12 @@ class Catalogue {
 
   /// Empties the list and fills it from a method's reply; entries that are no objects or arrays are passed over. An
   /// answer to a login that was replaced meanwhile is dropped. After a failure it counts as never fetched.
-  [[nodiscard]] bool fetch(const QString& method, HttpFailure* failure) {
+  [[nodiscard]] bool fetch(const QString& method, HttpFailure* failure, QString* err) {
     forget();
     const quint64 login = VantryUtil::account().loginNumber;
-    QString err;  // dropped: an empty list says it
-    const std::optional<Dictionary> reply = VantryUtil::VTSoap(method, err, {}, {}, failure);
+    QString said;
+    const std::optional<Dictionary> reply = VantryUtil::VTSoap(method, said, {}, {}, failure);
+    if (err) *err = said;
     if (!reply) return false;
     QList<Record> fetched;
     for (const QVariant& value : reply->Values()) {

@@ -38,11 +38,12 @@ QString VantryUtil::AccountURL() { return accountUrlOf(account()); }
 
 void VantryUtil::setAccountURL(const QString& url) { setAccountUrlOf(account(), url); }
 
-bool VantryUtil::ResolveAccountURL(HttpFailure* failure) {
+bool VantryUtil::ResolveAccountURL(HttpFailure* failure, QString* err) {
   const QString method = u"Get_API_URL"_s;
   const Account asked = account();
-  QString err;
-  const std::optional<Dictionary> reply = VTSoap(method, err, {}, {}, failure);
+  QString said;
+  const std::optional<Dictionary> reply = VTSoap(method, said, {}, {}, failure);
+  if (err) *err = said;
   if (!reply) return false;
   // Of a login that was replaced meanwhile the answer is void, also where that happens at this very moment.
   setAccountUrlOf(asked, reply->Lookup(method, DefaultAPIEndpoint()).toString());

@@ -30,10 +30,11 @@ class InternetHeaders {
 struct HttpFailure {
   enum class Phase { None, Name, Connect, Proxy, Tls, Request, Reply, TooLarge, TimedOut, Source, Stopped };
   Phase phase = Phase::None;
-  int code = 0;          ///< errno or library code; -1 for a time-out
-  QString detail;        ///< words for a person; names the peer, never a secret
-  QString peer{};        ///< host:port that was spoken to; empty before the first step
-  bool atProxy = false;  ///< `peer` is the proxy
+  int code = 0;             ///< errno or library code; -1 for a time-out
+  QString detail;           ///< words for a person; names the peer, never a secret
+  QString peer{};           ///< host:port that was spoken to; empty before the first step
+  bool atProxy = false;     ///< `peer` is the proxy
+  bool requestCut = false;  ///< the service had not got the request, whole
   [[nodiscard]] bool failed() const { return phase != Phase::None; }
 };
 

@@ -45,6 +45,7 @@ bool HttpExchange::take(const HttpFailure& failure) {
   m_reply.failure = failure;
   m_reply.failure.peer = m_atProxy ? proxyAuthority() : m_url.host.isEmpty() ? QString() : m_url.authority();
   m_reply.failure.atProxy = m_atProxy;
+  m_reply.failure.requestCut = !m_requestOut;
   m_over = true;
   return false;
 }
@@ -307,6 +308,7 @@ bool HttpExchange::sendMore() {
     return true;
   }
   m_sending = false;
+  m_requestOut = true;
   prepareNext();
   return true;
 }

@@ -88,6 +88,7 @@ class HttpExchange {
   qsizetype m_outputSent = 0;
   qint64 m_contentLeft = 0;  ///< bytes that m_request.content has not given yet
   bool m_sending = false;    ///< the request is not out yet, whole
+  bool m_requestOut = false;
   bool m_writesFailed = false;
   bool m_over = false;
 };

@@ -9,6 +9,7 @@ using namespace Qt::Literals::StringLiterals;
 /// half a request. A page that was cut short may: only one that is whole parses.
 static bool mayBeSuccess(const HttpFailure& failure) {
   using Phase = HttpFailure::Phase;
+  if (failure.requestCut) return false;
   return failure.phase == Phase::None || failure.phase == Phase::Reply || failure.phase == Phase::TimedOut;
 }
 

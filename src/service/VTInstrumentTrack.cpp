@@ -60,6 +60,6 @@ std::optional<VTInstrumentTrack> VTInstrumentTrack::GetTrackWithName(const QStri
   return std::nullopt;
 }
 
-bool VantryUtil::InstrumentTrackList(HttpFailure* failure) {
-  return catalogue().fetch(u"InstrumentTargetList"_s, failure);
+bool VantryUtil::InstrumentTrackList(HttpFailure* failure, QString* err) {
+  return catalogue().fetch(u"InstrumentTargetList"_s, failure, err);
 }

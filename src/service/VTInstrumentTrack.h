@@ -33,6 +33,7 @@ class VTInstrumentTrack {
 };
 
 namespace VantryUtil {
-/// Fetches the pairs into VTInstrumentTrack::Tracks, which a failure leaves empty. Blocks; not on the main thread.
-[[nodiscard]] bool InstrumentTrackList(HttpFailure* failure = nullptr);
+/// Fetches the pairs into VTInstrumentTrack::Tracks, which a failure leaves empty, with `err`, if given, as
+/// VTSoap leaves it. Blocks; not on the main thread.
+[[nodiscard]] bool InstrumentTrackList(HttpFailure* failure = nullptr, QString* err = nullptr);
 }  // namespace VantryUtil

@@ -55,4 +55,6 @@ std::optional<VTTrack> VTTrack::getTrackwithWorkflowName(const QString& workflow
   return std::nullopt;
 }
 
-bool VantryUtil::TrackList(HttpFailure* failure) { return catalogue().fetch(u"TrackList"_s, failure); }
+bool VantryUtil::TrackList(HttpFailure* failure, QString* err) {
+  return catalogue().fetch(u"TrackList"_s, failure, err);
+}

@@ -33,6 +33,7 @@ class VTTrack {
 };
 
 namespace VantryUtil {
-/// Fetches the tracks into VTTrack::Tracks, which a failure leaves empty. Blocks; not on the main thread.
-[[nodiscard]] bool TrackList(HttpFailure* failure = nullptr);
+/// Fetches the tracks into VTTrack::Tracks, which a failure leaves empty, with `err`, if given, as
+/// VTSoap leaves it. Blocks; not on the main thread.
+[[nodiscard]] bool TrackList(HttpFailure* failure = nullptr, QString* err = nullptr);
 }  // namespace VantryUtil

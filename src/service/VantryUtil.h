@@ -49,8 +49,9 @@ struct SendFileWatch {
                                                  const std::optional<FolderItem>& file, bool instrumentJob,
                                                  QString& err, SendFileWatch& watch);
 
-/// Asks the service for the account's endpoint and takes it over. False when no usable answer came.
-[[nodiscard]] bool ResolveAccountURL(HttpFailure* failure = nullptr);
+/// Asks the service for the account's endpoint and takes it over. False when no usable answer came; `err`, if given,
+/// is then as VTSoap leaves it.
+[[nodiscard]] bool ResolveAccountURL(HttpFailure* failure = nullptr, QString* err = nullptr);
 
 /// The words of a service error code; empty for an empty code. Any thread.
 [[nodiscard]] QString errToString(const QString& code);

@@ -90,12 +90,16 @@ static QString textOf(Problem::Kind kind) {
       return klStripShareNotMounted();
     case Problem::Kind::CopyFailed:
       return klStripCopyFailed();
+    case Problem::Kind::DeleteFailed:
+      return klStripDeleteFailed();
     case Problem::Kind::UploadFailed:
       return klStripUploadFailed();
     case Problem::Kind::RunFailed:
       return klStripRunFailed();
     case Problem::Kind::ServiceUnreachable:
       return klStripServiceUnreachable();
+    case Problem::Kind::ServiceRefuses:
+      return klStripServiceRefuses();
   }
   return {};
 }

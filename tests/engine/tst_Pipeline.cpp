@@ -250,6 +250,33 @@ class tst_Pipeline : public QObject {
     QVERIFY(QFile::exists(path) && bench.files(u"out"_s) == QStringList{u"b.txt"_s});
   }
 
+  void anInputThatCannotBeDeletedIsToldUntilOneIs() {
+    EngineBench bench;
+    const QByteArray in = QFile::encodeName(bench.home.path(u"in"_s)),
+                     out = QFile::encodeName(bench.home.path(u"out"_s));
+    const TaskPointer task = bench.makeTask();
+    std::optional<Unprivileged> user;
+    bench.service.whenBodyReaches(
+        1, [&] { ::chmod(in.constData(), 0555), ::chmod(out.constData(), 0777), user.emplace(bench.home.path()); });
+    for (const auto& [name, deletes, told] :
+         {std::tuple(u"a.txt"_s, true, 1), {u"b.txt"_s, false, 1}, {u"c.txt"_s, true, 0}}) {
+      task->DeleteAfterSave = deletes;
+      bench.drop(name);
+      for (int pass = 0; pass < 2; ++pass) {
+        EngineBench::process(*task);
+        user.reset();
+        ::chmod(in.constData(), 0700);
+        bench.clock.advance(4);
+      }
+      QVERIFY(bench.files(u"out"_s).contains(name));
+      QList<Problem::Kind> kinds;
+      for (const Problem& problem : Problems::present())
+        if (problem.subject == task->Name) kinds << problem.kind;
+      QCOMPARE(kinds, QList<Problem::Kind>(told, Problem::Kind::DeleteFailed));  // a copy of another file is no remedy
+    }
+    QCOMPARE(bench.files(u"in"_s), (QStringList{u"a.txt"_s, u"b.txt"_s}));
+  }
+
   void eachFailureOfTheServiceIsOneFailedFile() {
     using Kind = Misbehaviour::Kind;
     const QString notXml = u"Could not parse server response - invalid or missing XML"_s;

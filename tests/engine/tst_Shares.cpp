@@ -263,6 +263,30 @@ class tst_Shares : public QObject {
     QCOMPARE(Problems::present().first().detail, u"the server does not answer"_s);
   }
 
+  void aMountIsBrokenOffWhenTheProgramEnds() {
+    EngineBench bench;
+    std::atomic<bool> begun = false, released = false;
+    UploaderTask::setMountOperation([&](const MountRequest& request, int& error) {
+      begun = true;
+      while (!released && !(request.cancelled && request.cancelled())) std::this_thread::yield();
+      error = MountError::Cancelled;
+      return QString();
+    });
+    const TaskPointer task = bench.makeTask();
+    task->inputFolderPath = bench.home.path(u"share/in"_s);
+    task->AutoMountInputFolder = true;
+    task->inputfolderURL = u"smb://server/share"_s;
+    UploaderTask::addTask(task);
+    FolderWork::setLimit(60'000);
+    UploadThread::Start();
+    QTRY_VERIFY(begun);
+    const bool stopped = UploadThread::stop(5000);
+    released = true;
+    QVERIFY(stopped || (UploadThread::stop(5000), false));
+    UploadThread::allowAgain();
+    QVERIFY(Problems::present().isEmpty());
+  }
+
   void aFolderTakenAsItIsStaysSoUntilItsShareIsThere() {
     const QByteArray home = "1 0 8:1 / / rw - ext4 /dev/a rw\n2 1 8:2 / /home rw - ext4 /dev/b rw\n",
                      share = "3 2 0:9 / /home/share rw - cifs //server/share rw\n",

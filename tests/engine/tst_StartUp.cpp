@@ -62,6 +62,23 @@ class tst_StartUp : public QObject {
     QCOMPARE(loaded.load(), 1);
   }
 
+  void aServiceThatSaysNoIsThere() {
+    EngineBench bench;
+    VantryUtil::setAccountURL({});
+    PracticeService service;
+    startAtDefault(service);
+    service.misbehave({.kind = Misbehaviour::Kind::ErrorCode, .text = "E009", .times = 0, .method = "Get_API_URL"});
+    Problems::raise(Problem::Kind::ServiceUnreachable, {}, u"nobody"_s);
+    StartUp::begin({});
+    QTRY_VERIFY_WITH_TIMEOUT(!unreachable(), 10'000);
+    QTRY_COMPARE(Problems::present().size(), 1);
+    QCOMPARE(Problems::present().first().kind, Problem::Kind::ServiceRefuses);
+    QVERIFY(Problems::present().first().detail.startsWith(u"E009 - Wrong login"_s));
+    service.behave();
+    StartUp::refresh(true);
+    QTRY_VERIFY_WITH_TIMEOUT(Problems::present().isEmpty(), 10'000);
+  }
+
   void theEndpointComesFirstAndTheTasksLast() {
     EngineBench bench;
     VantryUtil::setAccountURL({});

@@ -5,6 +5,7 @@
 
 #include "ScriptedServer.h"
 #include "service/HTTPSocket.h"
+#include "service/SoapReply.h"
 #include "service/VantryUtil.h"
 #include "storage/Preferences.h"
 #include "support/TestRunner.h"
@@ -152,6 +153,35 @@ class tst_HTTPSocket : public QObject {
       (void)socket.Post(server.url(), Short);
       QVERIFY(socket.failure().phase == Phase::TimedOut && socket.failure().detail.contains("whole request"_L1));
       QVERIFY(timer.elapsed() < 4 * Short);
+    }
+  }
+
+  void aSuccessIsBelievedOnlyOfAServiceThatGotTheRequest() {
+    const QByteArray page = "\r\n\r\n<a><return>OK</return></a>";  // and no word on where it ends
+    const auto stays = [&](const QByteArray& status) {
+      return [reply = "HTTP/1.0 " + status + page](Peer& peer) {
+        (void)peer.readTo("\r\n\r\n");
+        peer.write(reply);
+        (void)peer.wait(-1);
+      };
+    };
+    const struct {
+      QByteArray status;
+      int pieces;
+      bool throughProxy, believed;
+    } rows[] = {{"200 OK", 1, false, true}, {"200 OK", 1'000'000, false, false}, {"407 No", 1, true, false}};
+    for (const auto& row : rows) {
+      ScriptedServer server(stays(row.status));
+      HTTPSecureSocket secure;
+      secure.HTTPProxyAddress = u"127.0.0.1"_s;
+      secure.HTTPProxyPort = server.port();
+      HTTPSocket open;
+      HTTPSocket& socket = row.throughProxy ? secure : open;
+      socket.SetRequestSource(std::make_unique<PiecewiseSource>(row.pieces, 1000LL * row.pieces, -1), "text/xml");
+      const QByteArray reply = socket.Post(row.throughProxy ? u"https://localhost/"_s : server.url(), Short);
+      QVERIFY(reply.contains("OK") && socket.failure().phase == Phase::TimedOut);
+      QString err;
+      QCOMPARE(readSoapReply(reply, socket.failure(), u"M"_s, {std::nullopt, {}}, err).has_value(), row.believed);
     }
   }
 
