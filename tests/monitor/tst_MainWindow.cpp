@@ -151,9 +151,11 @@ class tst_MainWindow : public QObject {
       return AdminOutcome{.tasksRestored = true};
     };
     fixture.commands.createNewTask = [] { return qFatal("a task was made"), false; };
-    fixture.listTasks({u"A"_s});
+    fixture.listTasks({u"A"_s, u"Off"_s});
     std::binary_semaphore mounted(0);  // holds the run, which first mounts the task's folder
-    const TaskPointer task = UploaderTask::allTasks().first();
+    const TaskPointer task = UploaderTask::allTasks().first(), off = UploaderTask::allTasks().last();
+    off->disabled = true;
+    off->UploadedCount = 7;
     task->inputFolderPath = fixture.home.path(u"missing"_s);
     task->AutoMountInputFolder = true;
     task->inputfolderURL = u"smb://server/share"_s;
@@ -168,9 +170,12 @@ class tst_MainWindow : public QObject {
     const QSignalSpy looked(fixture.control<QTimer>("StripRefresher"), &QTimer::timeout);
     QTRY_VERIFY(looked.size() > 1);
     QVERIFY(!UploadThread::Enabled);
-    QCOMPARE(UploaderTask::allTasks(), QList<TaskPointer>{task});
+    QCOMPARE(UploaderTask::allTasks(), (QList<TaskPointer>{task, off}));
     mounted.release();
-    QTRY_COMPARE(fixture.names(), u"A|Restored"_s);
+    QTRY_COMPARE(fixture.names(), u"A|Off|Restored"_s);
+    const TaskPointer kept = UploaderTask::getTaskWIthName(u"Off"_s);
+    QVERIFY(kept != off && kept->disabled && !UploaderTask::getTaskWIthName(u"Restored"_s)->disabled);
+    QCOMPARE(kept->UploadedCount, 7);
     QVERIFY(UploadThread::Enabled && UploadThread::stop(5000));
     UploaderTask::setMountOperation({});
     UploaderTask::setTriedAutoMount(false);
