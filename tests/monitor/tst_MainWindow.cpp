@@ -3,6 +3,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QHeaderView>
+#include <QMenuBar>
 #include <QSignalSpy>
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -298,6 +299,17 @@ class tst_MainWindow : public QObject {
     QDesktopServices::unsetUrlHandler(u"https"_s);
     const QUrl manual(u"https://"_s + QLatin1String(ManualHost) + u"/other_tools/en/manual/uploader"_s);
     QCOMPARE(m_opened, (QList<QUrl>{manual, manual}));
+  }
+
+  void eachButtonAndMenuHasALetterOfItsOwn() {
+    WindowFixture fixture;
+    QStringList captions;
+    for (const QAction* const menu : fixture.window().menuBar()->actions()) captions << menu->text();
+    for (const QPushButton* const button : fixture.window().findChildren<QPushButton*>()) captions << button->text();
+    QStringList letters;
+    for (const QString& caption : captions) letters << QKeySequence::mnemonic(caption).toString();
+    QVERIFY2(letters.size() == 8 && !letters.contains(QString()), qPrintable(captions.join(u' ')));
+    QVERIFY2(letters.removeDuplicates() == 0, qPrintable(captions.join(u' ')));
   }
 };
 
