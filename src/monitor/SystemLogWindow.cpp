@@ -64,7 +64,8 @@ SystemLogWindow* SystemLogWindow::openOne() {
 void SystemLogWindow::bringUp() {
   SystemLogWindow* window = openOne();
   if (!window) window = new SystemLogWindow;  // deletes itself when it is closed
-  window->setWindowState(window->windowState() & ~Qt::WindowMinimized);  // one that fills the screen stays so
+  // One that fills the screen stays so.
+  window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
   window->show();
   window->raise();
   window->activateWindow();

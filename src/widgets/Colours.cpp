@@ -2,9 +2,7 @@
 
 static bool isDark(const QPalette& palette) { return palette.color(QPalette::Window).lightness() < 128; }
 
-QColor requiredColor(const QPalette& palette) {
-  return isDark(palette) ? QColor(255, 120, 120) : QColor(255, 0, 0);
-}
+QColor requiredColor(const QPalette& palette) { return isDark(palette) ? QColor(255, 120, 120) : QColor(255, 0, 0); }
 
 QColor plainColor(const QPalette& palette) {
   return isDark(palette) ? palette.color(QPalette::WindowText) : QColor(Qt::black);
