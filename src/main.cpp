@@ -75,7 +75,8 @@ int main(int argc, char** argv) {
   VTUploaderMainWIndow window(commands);
   shown = &window;
   QObject::connect(&instance, &SingleInstance::showRequested, &window, [&window] {
-    window.showNormal();
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);  // one that fills the screen stays so
+    window.show();
     window.raise();
     window.activateWindow();
   });

@@ -964,10 +964,10 @@ In diesem Ordner werden verarbeitete Dateien abgelegt.</translation>
             <translation>„$1“ wird geschrieben …</translation>
         </message>
         <message id="VTULocalization.klLogNotExported">
-            <source>The log was not exported. If the file was there before, it is as it was.
+            <source>The log was not exported safely. Under that name stands what was there before or the whole export, never a part of it.
 
 $1</source>
-            <translation>Das Protokoll wurde nicht exportiert. War die Datei schon da, ist sie unverändert.
+            <translation>Das Protokoll wurde nicht sicher exportiert. Unter dem Namen steht, was vorher da war, oder der ganze Export, nie ein Teil davon.
 
 $1</translation>
         </message>
@@ -1006,6 +1006,10 @@ $1</translation>
         <message id="VTULocalization.klSendAgainMore">
             <source>and $1 more</source>
             <translation>und $1 weitere</translation>
+        </message>
+        <message id="VTULocalization.klSendAgainTooMany">
+            <source>No more than 1,000 entries can be sent again at once.</source>
+            <translation>Es können höchstens 1.000 Einträge auf einmal erneut gesendet werden.</translation>
         </message>
         <message id="VTULocalization.klSendAgainFailed">
             <source>These files are not sent again, because their date could not be set:

@@ -964,10 +964,10 @@ En esta carpeta se guardarán los archivos procesados.</translation>
             <translation>Exportando a «$1»...</translation>
         </message>
         <message id="VTULocalization.klLogNotExported">
-            <source>The log was not exported. If the file was there before, it is as it was.
+            <source>The log was not exported safely. Under that name stands what was there before or the whole export, never a part of it.
 
 $1</source>
-            <translation>El registro no se exportó. Si el archivo ya existía, no ha cambiado.
+            <translation>El registro no se ha exportado de forma segura. Con ese nombre está lo que había antes o la exportación completa, nunca una parte.
 
 $1</translation>
         </message>
@@ -1006,6 +1006,10 @@ $1</translation>
         <message id="VTULocalization.klSendAgainMore">
             <source>and $1 more</source>
             <translation>y $1 más</translation>
+        </message>
+        <message id="VTULocalization.klSendAgainTooMany">
+            <source>No more than 1,000 entries can be sent again at once.</source>
+            <translation>No se pueden reenviar más de 1000 entradas a la vez.</translation>
         </message>
         <message id="VTULocalization.klSendAgainFailed">
             <source>These files are not sent again, because their date could not be set:

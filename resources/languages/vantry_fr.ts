@@ -964,10 +964,10 @@ Les fichiers traités y seront rangés.</translation>
             <translation>Exportation vers « $1 »...</translation>
         </message>
         <message id="VTULocalization.klLogNotExported">
-            <source>The log was not exported. If the file was there before, it is as it was.
+            <source>The log was not exported safely. Under that name stands what was there before or the whole export, never a part of it.
 
 $1</source>
-            <translation>Le journal n’a pas été exporté. Si le fichier existait déjà, il est inchangé.
+            <translation>Le journal n’a pas été exporté de manière sûre. Sous ce nom se trouve ce qui y était avant ou l’export complet, jamais une partie.
 
 $1</translation>
         </message>
@@ -1006,6 +1006,10 @@ $1</translation>
         <message id="VTULocalization.klSendAgainMore">
             <source>and $1 more</source>
             <translation>et $1 autres</translation>
+        </message>
+        <message id="VTULocalization.klSendAgainTooMany">
+            <source>No more than 1,000 entries can be sent again at once.</source>
+            <translation>Il n’est pas possible de renvoyer plus de 1 000 entrées à la fois.</translation>
         </message>
         <message id="VTULocalization.klSendAgainFailed">
             <source>These files are not sent again, because their date could not be set:

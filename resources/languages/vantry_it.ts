@@ -964,10 +964,10 @@ Qui verranno conservati i file elaborati.</translation>
             <translation>Esportazione in «$1»...</translation>
         </message>
         <message id="VTULocalization.klLogNotExported">
-            <source>The log was not exported. If the file was there before, it is as it was.
+            <source>The log was not exported safely. Under that name stands what was there before or the whole export, never a part of it.
 
 $1</source>
-            <translation>Il registro non è stato esportato. Se il file esisteva già, è invariato.
+            <translation>Il registro non è stato esportato in modo sicuro. Con quel nome c’è ciò che c’era prima o l’intera esportazione, mai una parte.
 
 $1</translation>
         </message>
@@ -1006,6 +1006,10 @@ $1</translation>
         <message id="VTULocalization.klSendAgainMore">
             <source>and $1 more</source>
             <translation>e altri $1</translation>
+        </message>
+        <message id="VTULocalization.klSendAgainTooMany">
+            <source>No more than 1,000 entries can be sent again at once.</source>
+            <translation>Non è possibile inviare di nuovo più di 1.000 voci alla volta.</translation>
         </message>
         <message id="VTULocalization.klSendAgainFailed">
             <source>These files are not sent again, because their date could not be set:

@@ -964,10 +964,10 @@ This is the folder where processed files will be stored.</source>
             <translation>「$1」に書き出しています...</translation>
         </message>
         <message id="VTULocalization.klLogNotExported">
-            <source>The log was not exported. If the file was there before, it is as it was.
+            <source>The log was not exported safely. Under that name stands what was there before or the whole export, never a part of it.
 
 $1</source>
-            <translation>ログを書き出せませんでした。以前からあったファイルは元のままです。
+            <translation>ログを安全に書き出せませんでした。この名前のファイルは、以前の内容のままか、書き出したログの全体のどちらかで、途中までのものではありません。
 
 $1</translation>
         </message>
@@ -1006,6 +1006,10 @@ $1</translation>
         <message id="VTULocalization.klSendAgainMore">
             <source>and $1 more</source>
             <translation>ほか $1 件</translation>
+        </message>
+        <message id="VTULocalization.klSendAgainTooMany">
+            <source>No more than 1,000 entries can be sent again at once.</source>
+            <translation>一度に再送信できるのは 1,000 件までです。</translation>
         </message>
         <message id="VTULocalization.klSendAgainFailed">
             <source>These files are not sent again, because their date could not be set:

@@ -964,10 +964,10 @@ In deze map worden verwerkte bestanden bewaard.</translation>
             <translation>Exporteren naar “$1”...</translation>
         </message>
         <message id="VTULocalization.klLogNotExported">
-            <source>The log was not exported. If the file was there before, it is as it was.
+            <source>The log was not exported safely. Under that name stands what was there before or the whole export, never a part of it.
 
 $1</source>
-            <translation>Het logboek is niet geëxporteerd. Als het bestand er al was, is het ongewijzigd.
+            <translation>Het logboek is niet veilig geëxporteerd. Onder die naam staat wat er eerder stond of de hele export, nooit een deel ervan.
 
 $1</translation>
         </message>
@@ -1006,6 +1006,10 @@ $1</translation>
         <message id="VTULocalization.klSendAgainMore">
             <source>and $1 more</source>
             <translation>en nog $1</translation>
+        </message>
+        <message id="VTULocalization.klSendAgainTooMany">
+            <source>No more than 1,000 entries can be sent again at once.</source>
+            <translation>Er kunnen niet meer dan 1.000 vermeldingen tegelijk opnieuw worden verzonden.</translation>
         </message>
         <message id="VTULocalization.klSendAgainFailed">
             <source>These files are not sent again, because their date could not be set:

@@ -964,10 +964,10 @@ W tym folderze będą zapisywane przetworzone pliki.</translation>
             <translation>Eksport do „$1”...</translation>
         </message>
         <message id="VTULocalization.klLogNotExported">
-            <source>The log was not exported. If the file was there before, it is as it was.
+            <source>The log was not exported safely. Under that name stands what was there before or the whole export, never a part of it.
 
 $1</source>
-            <translation>Dziennik nie został wyeksportowany. Jeśli plik już istniał, pozostał bez zmian.
+            <translation>Dziennik nie został bezpiecznie wyeksportowany. Pod tą nazwą jest to, co było tam wcześniej, albo cały eksport, nigdy jego część.
 
 $1</translation>
         </message>
@@ -1006,6 +1006,10 @@ $1</translation>
         <message id="VTULocalization.klSendAgainMore">
             <source>and $1 more</source>
             <translation>i jeszcze $1</translation>
+        </message>
+        <message id="VTULocalization.klSendAgainTooMany">
+            <source>No more than 1,000 entries can be sent again at once.</source>
+            <translation>Jednorazowo można ponownie wysłać najwyżej 1000 wpisów.</translation>
         </message>
         <message id="VTULocalization.klSendAgainFailed">
             <source>These files are not sent again, because their date could not be set:

@@ -964,10 +964,10 @@ Nesta pasta serão guardados os arquivos processados.</translation>
             <translation>Exportando para “$1”...</translation>
         </message>
         <message id="VTULocalization.klLogNotExported">
-            <source>The log was not exported. If the file was there before, it is as it was.
+            <source>The log was not exported safely. Under that name stands what was there before or the whole export, never a part of it.
 
 $1</source>
-            <translation>O registro não foi exportado. Se o arquivo já existia, ele não mudou.
+            <translation>O registro não foi exportado com segurança. Com esse nome está o que havia antes ou a exportação inteira, nunca uma parte.
 
 $1</translation>
         </message>
@@ -1006,6 +1006,10 @@ $1</translation>
         <message id="VTULocalization.klSendAgainMore">
             <source>and $1 more</source>
             <translation>e mais $1</translation>
+        </message>
+        <message id="VTULocalization.klSendAgainTooMany">
+            <source>No more than 1,000 entries can be sent again at once.</source>
+            <translation>Não é possível reenviar mais de 1.000 entradas de uma vez.</translation>
         </message>
         <message id="VTULocalization.klSendAgainFailed">
             <source>These files are not sent again, because their date could not be set:

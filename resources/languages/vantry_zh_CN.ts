@@ -964,10 +964,10 @@ This is the folder where processed files will be stored.</source>
             <translation>正在导出到“$1”...</translation>
         </message>
         <message id="VTULocalization.klLogNotExported">
-            <source>The log was not exported. If the file was there before, it is as it was.
+            <source>The log was not exported safely. Under that name stands what was there before or the whole export, never a part of it.
 
 $1</source>
-            <translation>日志未导出。如果该文件原已存在，则保持原样。
+            <translation>日志未能安全导出。该名称下是原有内容或完整的导出内容，不会是其中一部分。
 
 $1</translation>
         </message>
@@ -1006,6 +1006,10 @@ $1</translation>
         <message id="VTULocalization.klSendAgainMore">
             <source>and $1 more</source>
             <translation>另外 $1 个</translation>
+        </message>
+        <message id="VTULocalization.klSendAgainTooMany">
+            <source>No more than 1,000 entries can be sent again at once.</source>
+            <translation>一次最多可以重新发送 1,000 条记录。</translation>
         </message>
         <message id="VTULocalization.klSendAgainFailed">
             <source>These files are not sent again, because their date could not be set:

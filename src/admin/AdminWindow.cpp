@@ -85,7 +85,7 @@ void AdminWindow::checkCanSave() {
   const AdminCheck check = checkAdminForm({SoapLogin->text(), soapPassword->text(), LockTaskListButton->isChecked(),
                                            AdminPassword->text(), AdminPasswordRepeat->text()});
   QPalette colours;
-  if (check.passwordsWrong) colours.setColor(QPalette::WindowText, requiredColor(palette()));
+  colours.setColor(QPalette::WindowText, check.passwordsWrong ? requiredColor(palette()) : plainColor(palette()));
   for (QLabel* const label : {adminPasswordLabel, AdminPasswordVerificationLabel}) {
     label->setPalette(colours);
     label->buddy()->setAccessibleDescription(check.passwordsWrong ? klRequired() : QString());

@@ -23,7 +23,7 @@ void AdminWindow::saveConfigurationButton_Action() {
                        beginCopying(
                            false, [files, into = *chosen](CopyJob& job) { backUpTasks(files, into, job); },
                            [this](const CopyJob& job) {
-                             copyingEnded(job.copies() > 0 ? klBackupDone() : QString());
+                             copyingEnded(job.copies() > 0 && job.failures().isEmpty() ? klBackupDone() : QString());
                              if (!job.failures().isEmpty())
                                Messages::tell(this, messageNaming(klBackupFailed(), job.failures()));
                            });
@@ -44,7 +44,7 @@ void AdminWindow::LoadConfigurationButton_Action() {
                      beginCopying(
                          true, [from = *chosen](CopyJob& job) { restoreTasks(from, job); },
                          [this](const CopyJob& job) {
-                           copyingEnded(job.copies() > 0 ? klRestoreDone() : QString());
+                           copyingEnded(job.copies() > 0 && job.failures().isEmpty() ? klRestoreDone() : QString());
                            m_outcome.tasksRestored = m_outcome.tasksRestored || job.copies() > 0;
                            if (!job.failures().isEmpty())
                              Messages::tell(this, messageNaming(klRestoreFailed(), job.failures()));

@@ -4,6 +4,7 @@
 
 #include "engine/UploaderTask.h"
 #include "platform/SafeFile.h"
+#include "storage/DictionaryFile.h"
 #include "text/Placeholders.h"
 #include "text/VTULocalization.h"
 #include "widgets/Captions.h"
@@ -90,6 +91,7 @@ void backUpTasks(const QList<FolderItem>& files, const FolderItem& into, CopyJob
 static IoResult putIntoTaskFolder(const FolderItem& file, const FolderItem& tasks, const CopyJob& job) {
   QByteArray content;
   IoResult result = readWholeFile(file, LargestTaskFile, content);
+  if (result.ok()) result = DictionaryFile::check(content);  // a damaged file must not replace a task that works
   if (!result.ok()) return result;
   const std::lock_guard lock(restoreMutex);
   if (job.stopped()) return IoResult::failure(ECANCELED, file.Name());

@@ -38,7 +38,8 @@ class CopyJob {
 void backUpTasks(const QList<FolderItem>& files, const FolderItem& into, CopyJob& job);
 
 /// Copies the task files of a folder into the task folder, over files of the same names, each of which is the old one
-/// or the new one at every moment. A folder that doesn't exist is left alone. Blocks for the folder.
+/// or the new one at every moment. A damaged one fails and replaces nothing; a folder that doesn't exist is left alone.
+/// Blocks for the folder.
 void restoreTasks(const FolderItem& from, CopyJob& job);
 
 /// Loads the task list anew, once no file is being put into the task folder any more. Any thread but the main one.

@@ -13,6 +13,7 @@ using namespace VTULocalization;
 
 void EditTaskWindow::paintQuietParts() {
   Sample->setPalette(quieter(palette(), 2));
+  FileNameExclusion->setPalette(readableCue(palette()));
   for (QFrame* const line : std::as_const(m_separators)) line->setPalette(quieter(palette(), 6));
 }
 
@@ -32,7 +33,7 @@ void EditTaskWindow::paintCheck() {
 
   const auto paint = [this](QLabel* label, bool missing) {
     QPalette colours;
-    if (missing) colours.setColor(QPalette::WindowText, requiredColor(palette()));
+    colours.setColor(QPalette::WindowText, missing ? requiredColor(palette()) : plainColor(palette()));
     label->setPalette(colours);
     label->buddy()->setAccessibleDescription(missing ? klRequired() : QString());
   };

@@ -8,21 +8,24 @@
 
 constexpr int PauseMs = 250;
 constexpr int LimitMs = 1000;
+constexpr int SlowPauseMs = 5000;  // before a folder that was slow to answer is looked at again
 
 LiveSample::LiveSample(QWidget* parent)
     : QLabel(parent),
       m_request{*FolderItem::fromNativePath(QStringLiteral("/")), {}, {}, {}, {}},
+      m_pause(this),
       m_call("sample", this) {
   setTextFormat(Qt::PlainText);
+  m_pause.setObjectName(QStringLiteral("SamplePause"));
   m_pause.setSingleShot(true);
-  m_pause.setInterval(PauseMs);
   connect(&m_pause, &QTimer::timeout, this, [this] { look(); });
 }
 
 void LiveSample::follow(const SampleRequest& request) {
+  const bool otherFolder = request.folder != m_request.folder;
   m_request = request;
-  if (m_line.isEmpty()) show(VTULocalization::klSampleLooking(), {});
-  m_pause.start();
+  if (m_line.isEmpty() || otherFolder) show(VTULocalization::klSampleLooking(), {});
+  m_pause.start(PauseMs);
 }
 
 void LiveSample::say(const QString& line) {
@@ -33,7 +36,7 @@ void LiveSample::say(const QString& line) {
 
 void LiveSample::look() {
   // While a look at this folder hangs, another would hang as well.
-  if (m_slowFolder == m_request.folder && !m_call.idle()) return show(VTULocalization::klSampleSlow(), {});
+  if (m_slowFolder == m_request.folder && !m_call.idle()) return saySlow();
   m_slowFolder.reset();
   m_call.run<FolderSample>(
       LimitMs,
@@ -42,8 +45,13 @@ void LiveSample::look() {
       [this] {
         m_call.cancel();
         m_slowFolder = m_request.folder;
-        show(VTULocalization::klSampleSlow(), {});
+        saySlow();
       });
+}
+
+void LiveSample::saySlow() {
+  show(VTULocalization::klSampleSlow(), {});
+  m_pause.start(SlowPauseMs);
 }
 
 void LiveSample::show(const QString& line, const QString& details) {

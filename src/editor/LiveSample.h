@@ -1,6 +1,6 @@
 #pragma once
 // The quiet line under the fields: what the rules of the form select in the chosen folder now. Follows what is typed
-// after a short pause, off the main thread, and gives up on a folder that is slow to answer. Main thread.
+// after a short pause, off the main thread. A folder that is slow to answer is looked at again later. Main thread.
 
 #include <QLabel>
 #include <QTimer>
@@ -25,6 +25,7 @@ class LiveSample : public QLabel {
 
  private:
   void look();
+  void saySlow();
   void show(const QString& line, const QString& details);
   void fit();
 

@@ -49,12 +49,25 @@ void clearProblemsOf(const UploaderTask& task) {
   }
 }
 
+bool ofSameFile(const UploaderTask& a, const UploaderTask& b) {
+  return a.file && b.file && a.file->NativePath() == b.file->NativePath();
+}
+
+/// Gives tasks that were read anew what no file holds of the listed ones: a task that was switched off stays so. With
+/// the lock held.
+void carryOver(const QList<TaskPointer>& listed, const QList<TaskPointer>& loaded) {
+  for (const TaskPointer& task : loaded)
+    for (const TaskPointer& old : listed) {
+      if (!ofSameFile(*task, *old)) continue;
+      task->disabled = old->disabled.load();
+      task->UploadedCount = old->UploadedCount.load();
+    }
+}
+
 /// Takes a task off the list and returns it: the very object or, once the list was loaded anew, the one that was read
 /// from the same file. With the lock held.
 TaskPointer takeOff(const TaskPointer& task) {
-  const auto same = [&task](const TaskPointer& listed) {
-    return listed == task || (listed->file && task->file && listed->file->NativePath() == task->file->NativePath());
-  };
+  const auto same = [&task](const TaskPointer& listed) { return listed == task || ofSameFile(*listed, *task); };
   const auto found = std::find_if(list.begin(), list.end(), same);
   if (found == list.end()) return nullptr;
   TaskPointer taken = *found;
@@ -98,6 +111,7 @@ void UploaderTask::Load() {
   QList<TaskPointer> earlier = loaded;
   {
     const std::lock_guard lock(listMutex);
+    carryOver(list, loaded);
     list.swap(earlier);
   }
   for (const TaskPointer& task : earlier)

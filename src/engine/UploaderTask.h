@@ -125,7 +125,8 @@ class UploaderTask {
 
   // The shared list, guarded; any thread. A task that was listed before a Load stands for the one of the same file.
   [[nodiscard]] static QList<TaskPointer> allTasks();
-  /// Reads the task folder anew into the list. A file that can't be read raises Problem::TaskFileSkipped.
+  /// Reads the task folder anew into the list. A file that can't be read raises Problem::TaskFileSkipped. A task of a
+  /// file that was listed already stays switched off, and keeps its count.
   static void Load();
   static void unload();
   static void addTask(const TaskPointer& task);

@@ -18,6 +18,7 @@ constexpr qsizetype MostCopied = 100'000;
 constexpr qsizetype MostSentAgain = 1'000;
 constexpr qsizetype MostNamed = 12;
 constexpr qsizetype LongestName = 80;
+constexpr int SlowMs = 2000;
 
 LogRowMenu::LogRowMenu(LogListView* list)
     : QObject(list), m_list(list), m_copy("log-copy", this), m_look("log-files", this), m_touch("send-again", this) {
@@ -35,7 +36,8 @@ void LogRowMenu::copy() {
       [this](const CopiedLines& copied) {
         if (copied.error.isEmpty()) return QGuiApplication::clipboard()->setText(QString::fromUtf8(copied.lines));
         Messages::tell(m_list->window(), fillPlaceholders(klLogUnreadable(), {copied.error}));
-      });
+      },
+      [this] { Messages::tell(m_list->window(), klLogBusy()); });
 }
 
 void LogRowMenu::show(QPoint place) {
@@ -43,6 +45,7 @@ void LogRowMenu::show(QPoint place) {
   auto* const menu = new QMenu(m_list);
   menu->setObjectName(u"LogRowMenu"_s);
   menu->setAttribute(Qt::WA_DeleteOnClose);
+  menu->setToolTipsVisible(true);
   QAction* const again = menu->addAction(klSendAgain(), this, &LogRowMenu::sendAgain);
   again->setObjectName(u"SendAgainAction"_s);
   again->setEnabled(false);
@@ -68,12 +71,18 @@ static QList<RepeatableFile> filesOf(const LogSource& log, const QList<qint64>& 
 void LogRowMenu::look(QAction* sendAgain) {
   m_files.clear();
   const QList<qint64> ids = m_list->selectedIds(MostSentAgain + 1);
-  if (ids.size() > MostSentAgain || !m_log) return;
+  if (!m_log) return;
+  if (ids.size() > MostSentAgain) return sendAgain->setToolTip(klSendAgainTooMany());
   m_look.run<QList<RepeatableFile>>(
-      0, [log = *m_log, ids](const Cancelled& cancelled) { return filesOf(log, ids, cancelled); },
+      SlowMs, [log = *m_log, ids](const Cancelled& cancelled) { return filesOf(log, ids, cancelled); },
       [this, action = QPointer<QAction>(sendAgain)](const QList<RepeatableFile>& files) {
         m_files = files;
-        if (action) action->setEnabled(!files.isEmpty());
+        if (!action) return;
+        action->setEnabled(!files.isEmpty());
+        action->setToolTip({});
+      },
+      [action = QPointer<QAction>(sendAgain)] {
+        if (action) action->setToolTip(klLogBusy());
       });
 }
 
@@ -113,5 +122,6 @@ void LogRowMenu::sendAgain() {
         if (reasons.isEmpty()) return;
         const QString shown = reasons.first(qMin(reasons.size(), MostNamed)).join(u'\n');
         Messages::tell(m_list->window(), fillPlaceholders(klSendAgainFailed(), {shown}));
-      });
+      },
+      [this] { Messages::tell(m_list->window(), fillPlaceholders(klSendAgainFailed(), {klLogBusy()})); });
 }

@@ -9,6 +9,7 @@
 #include "text/VTULocalization.h"
 #include "widgets/Anchors.h"
 #include "widgets/Captions.h"
+#include "widgets/Colours.h"
 #include "widgets/Mnemonics.h"
 #include "widgets/Pictures.h"
 
@@ -63,10 +64,9 @@ SystemLogWindow* SystemLogWindow::openOne() {
 void SystemLogWindow::bringUp() {
   SystemLogWindow* window = openOne();
   if (!window) window = new SystemLogWindow;  // deletes itself when it is closed
-  if (window->isMinimized())
-    window->showNormal();
-  else
-    window->show();
+  // One that fills the screen stays so.
+  window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+  window->show();
   window->raise();
   window->activateWindow();
 }
@@ -115,6 +115,7 @@ void SystemLogWindow::buildControls() {
   FailuresOnlyCheckBox = box(u"FailuresOnlyCheckBox"_s, klFailuresOnly(), 746, 102);
   AutoRefreshCheckBox = box(u"AutoRefreshCheckBox"_s, klAutoRefresh(), 852, 128);
   FindField->setPlaceholderText(klFind());
+  FindField->setPalette(readableCue(palette()));
   FindField->setClearButtonEnabled(true);
   FindField->setToolTip(plainToolTip(klFindTip()));
   FailuresOnlyCheckBox->setToolTip(plainToolTip(klFailuresOnlyTip()));
@@ -203,7 +204,9 @@ void SystemLogWindow::chooseGround() {
 
 void SystemLogWindow::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  if (event->type() == QEvent::PaletteChange) chooseGround();
+  if (event->type() != QEvent::PaletteChange) return;
+  chooseGround();
+  if (FindField) FindField->setPalette(readableCue(palette()));
 }
 
 void SystemLogWindow::resizeEvent(QResizeEvent* event) {

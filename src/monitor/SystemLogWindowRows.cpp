@@ -14,6 +14,8 @@
 using namespace Qt::Literals::StringLiterals;
 using namespace VTULocalization;
 
+constexpr int SlowMs = 3000;
+
 /// Why nothing is logged, as far as it is known.
 static QString noLogReason() {
   for (const Problem& problem : Problems::present())
@@ -29,7 +31,7 @@ void SystemLogWindow::Event_Open() {
   };
   const FolderItem file = VantryUtil::logDB->file();
   m_open.run<Schema>(
-      0,
+      SlowMs,
       [file](const auto&) {
         const LogReader::OpenResult opened = LogReader::open(file);
         return Schema{opened.columns, opened.error};
@@ -43,7 +45,8 @@ void SystemLogWindow::Event_Open() {
         m_menu->setLog({file, headers});
         receive(true);
         loadAll();
-      });
+      },
+      [this] { emptyList(klLogBusy()); });
 }
 
 void SystemLogWindow::add(qint64 rowid) {
@@ -104,15 +107,19 @@ void SystemLogWindow::showLogRow(qint64 rowid) {
   if (!VantryUtil::logDB) return;
   const LogSource log{VantryUtil::logDB->file(), headers};
   const LogFilter filter = m_find->filter();
+  const auto putBack = [this, rowid] {
+    const std::lock_guard lock(m_queueMutex);
+    logstoadd.push_front(rowid);
+  };
   m_row.run<ReadRow>(
       0, [log, rowid, filter](const auto&) { return readRow(log, rowid, filter); },
-      [this, rowid, filter](const ReadRow& read) {
+      [this, rowid, filter, putBack](const ReadRow& read) {
         // A search that has begun meanwhile doesn't know the row: it comes with a later tick.
         const bool late = m_find->searching() || filter != m_find->filter();
         if (read.error.isEmpty() && !late) return takeRow(rowid, read);
-        const std::lock_guard lock(m_queueMutex);
-        logstoadd.push_front(rowid);
-      });
+        putBack();
+      },
+      putBack);
 }
 
 void SystemLogWindow::takeRow(qint64 rowid, const ReadRow& read) {
@@ -200,6 +207,12 @@ void SystemLogWindow::DeleteLogs_Action() {
         updateNote();
         if (m_reloadWanted) loadAll();
         if (!error.isEmpty()) Messages::tell(this, error);
+      },
+      [this] {
+        m_emptyReason = klLogCleared();
+        updateNote();
+        if (m_reloadWanted) loadAll();
+        Messages::tell(this, klLogBusy());
       });
 }
 

@@ -12,6 +12,7 @@
 #include "version.h"
 #include "widgets/Anchors.h"
 #include "widgets/Captions.h"
+#include "widgets/Mnemonics.h"
 #include "widgets/Pictures.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -65,10 +66,12 @@ void VTUploaderMainWIndow::buildControls() {
     control->setAccessibleName(spoken);
     anchors->place(control, at, edges);
   };
+  Mnemonics letters;
+  for (const QAction* const menu : m_menus->actions()) letters.reserve(menu->text());
   const auto button = [&](const QString& name, const QString& caption, int left, Edge side) {
     auto* const made = new QPushButton(ground);
     place(made, name, caption, {left, 396, 80, 20}, side | Edge::Bottom);
-    setFittedCaption(*made, caption);
+    setFittedCaption(*made, letters.mark(caption));
     return made;
   };
   const Edges top = Edge::Left | Edge::Top | Edge::Right;

@@ -59,6 +59,11 @@ IoResult DictionaryFile::open(const FolderItem& f) {
   return result;
 }
 
+IoResult DictionaryFile::check(const QByteArray& content) {
+  Dictionary values;
+  return DictionaryFormat::read(content, currentKey(), values);
+}
+
 std::optional<FolderItem> DictionaryFile::location() const {
   const QMutexLocker lock(&m_mutex);
   return m_location;

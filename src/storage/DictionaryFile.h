@@ -25,6 +25,9 @@ class DictionaryFile {
   /// DictionaryFormat::Damaged and EFBIG tell content that is no dictionary; other errors, a file that was not read.
   [[nodiscard]] IoResult open(const FolderItem& f);
 
+  /// What open() would say of a file of that content, an empty one included; any thread.
+  [[nodiscard]] static IoResult check(const QByteArray& content);
+
   [[nodiscard]] std::optional<FolderItem> location() const;
 
   // Typed access: a key that is missing gives false, 0, "" or nothing; a value of another type is converted.

@@ -8,8 +8,8 @@
 /// False if it doesn't fit even so.
 bool fitFont(QWidget& control, const QString& text, int room);
 
-/// Sets a button's caption, which may hold a mnemonic, in a smaller font (down to 9 pixels) when it would be cut at the button's size; one that
-/// is cut even so stands whole in the tool tip.
+/// Sets a button's caption, which may hold a mnemonic, in a smaller font (down to 9 pixels) when it would be cut at the
+/// button's size; one that is cut even so stands whole in the tool tip.
 void setFittedCaption(QPushButton& button, const QString& caption);
 
 /// Text of a user or a file name on one line: control characters become blanks, and the marks that could turn the

@@ -1,8 +1,19 @@
 #include "widgets/Colours.h"
 
-QColor requiredColor(const QPalette& palette) {
-  const bool dark = palette.color(QPalette::Window).lightness() < 128;
-  return dark ? QColor(255, 120, 120) : QColor(255, 0, 0);
+static bool isDark(const QPalette& palette) { return palette.color(QPalette::Window).lightness() < 128; }
+
+QColor requiredColor(const QPalette& palette) { return isDark(palette) ? QColor(255, 120, 120) : QColor(255, 0, 0); }
+
+QColor plainColor(const QPalette& palette) {
+  return isDark(palette) ? palette.color(QPalette::WindowText) : QColor(Qt::black);
+}
+
+QPalette readableCue(const QPalette& palette) {
+  QColor cue = palette.color(QPalette::Text);
+  cue.setAlpha(128);
+  QPalette readable;
+  readable.setColor(QPalette::PlaceholderText, cue);
+  return readable;
 }
 
 QPalette quieter(const QPalette& palette, int parts) {

@@ -7,5 +7,10 @@
 
 /// The red of a label whose entry is missing.
 [[nodiscard]] QColor requiredColor(const QPalette& palette);
+/// The colour of a label whose entry isn't missing: black, and on a dark ground the palette's own.
+[[nodiscard]] QColor plainColor(const QPalette& palette);
+/// For a field that shows a cue while it is empty: the cue in the text colour, half transparent. The palette's
+/// own colour for it can't be relied on, as some desktops leave it dark on a dark field.
+[[nodiscard]] QPalette readableCue(const QPalette& palette);
 /// The ground's text colour with `parts` of eight of the ground itself, for lines and text that stay in the back.
 [[nodiscard]] QPalette quieter(const QPalette& palette, int parts);

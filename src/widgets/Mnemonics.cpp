@@ -32,11 +32,17 @@ QString Mnemonics::mark(const QString& caption) {
   return marked;
 }
 
+/// The letter that is marked, in small; a null character for none.
+static QChar markedLetter(const QString& marked) {
+  for (qsizetype i = 0; i + 1 < marked.size(); ++i)
+    if (marked[i] == u'&' && marked[++i] != u'&') return marked[i].toLower();
+  return {};
+}
+
+void Mnemonics::reserve(const QString& marked) { m_used.insert(markedLetter(marked)); }
+
 QString Mnemonics::replace(const QString& marked, const QString& caption) {
-  for (qsizetype i = 0; i + 1 < marked.size(); ++i) {
-    if (marked[i] != u'&') continue;
-    if (marked[++i] != u'&') m_used.remove(marked[i].toLower());
-  }
+  m_used.remove(markedLetter(marked));
   return mark(caption);
 }
 

@@ -17,8 +17,19 @@ class tst_TaskBackup : public QObject {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) qFatal("can't write");
   }
+  /// A task file whose task has that name.
+  static void store(const QString& path, const QString& name) {
+    UploaderTask task;
+    task.Name = name;
+    if (!task.save(*FolderItem::fromNativePath(path))) qFatal("can't store a task");
+  }
   static QString names(const QString& folder) { return QDir(folder).entryList(QDir::Files, QDir::Name).join(u'|'); }
-  static QByteArray task(const QString& name) { return TemporaryHome::readFile(taskPath(name)); }
+  /// The name of the task in that file of the task folder; the content of a file that holds none.
+  static QString task(const QString& name) {
+    UploaderTask read;
+    if (read.open(*FolderItem::fromNativePath(taskPath(name))).ok()) return read.Name;
+    return QString::fromUtf8(TemporaryHome::readFile(taskPath(name)));
+  }
   /// Presses a button, chooses that folder and waits for the end.
   static void copy(AdminFixture& fixture, const char* button, const QString& folder, const QString& line) {
     const Choice choice(folder);
@@ -44,8 +55,8 @@ class tst_TaskBackup : public QObject {
   void aBackupNeverOverwritesAndARestoreMerges() {
     AdminFixture fixture;
     const QString backup = fixture.home.makeFolder(u"backup"_s);
-    write(taskPath(u"press.vnt"_s), "press");
-    write(taskPath(u"Other.VNT"_s), "other");
+    store(taskPath(u"press.vnt"_s), u"press"_s);
+    store(taskPath(u"Other.VNT"_s), u"other"_s);
     write(taskPath(u"gone.del"_s), "gone");
     fixture.open();
     copy(fixture, "saveConfigurationButton", {}, {});
@@ -54,12 +65,12 @@ class tst_TaskBackup : public QObject {
     QCOMPARE(names(backup), u"1 Other.VNT|1 press.vnt|Other.VNT|press.vnt"_s);
     QVERIFY(!fixture.window().outcome().tasksRestored);
 
-    write(taskPath(u"press.vnt"_s), "changed");
-    write(taskPath(u"new.vnt"_s), "new");
+    store(taskPath(u"press.vnt"_s), u"changed"_s);
+    store(taskPath(u"new.vnt"_s), u"new"_s);
     copy(fixture, "LoadConfigurationButton", backup, klRestoreDone());
     QCOMPARE(names(UploaderTask::TaskDirectory().NativePath()),
              u"1 Other.VNT|1 press.vnt|Other.VNT|gone.del|new.vnt|press.vnt"_s);
-    QCOMPARE(task(u"press.vnt"_s), "press");
+    QCOMPARE(task(u"press.vnt"_s), u"press"_s);
     QVERIFY(fixture.window().outcome().tasksRestored);
   }
 
@@ -67,21 +78,24 @@ class tst_TaskBackup : public QObject {
     AdminFixture fixture;
     const QString backup = fixture.home.makeFolder(u"backup"_s);
     write(backup + u"/huge.vnt"_s, QByteArray(17 << 20, 'x'));
-    write(backup + u"/z.vnt"_s, "z");
+    store(backup + u"/z.vnt"_s, u"z"_s);
+    write(backup + u"/empty.vnt"_s, {});
+    write(backup + u"/part.vnt"_s, TemporaryHome::readFile(backup + u"/z.vnt"_s).chopped(40));
     QVERIFY(QFile::link(u"/nowhere"_s, backup + u"/lost.vnt"_s));
-    write(taskPath(u"huge.vnt"_s), "old");
+    for (const QString& name : {u"huge"_s, u"empty"_s, u"part"_s}) store(taskPath(name + u".vnt"_s), name);
     fixture.open();
     const BoxAnswer told(QMessageBox::Ok);
-    copy(fixture, "LoadConfigurationButton", backup, klRestoreDone());
+    copy(fixture, "LoadConfigurationButton", backup, {});
     QTRY_VERIFY2(told.text().startsWith(klRestoreFailed()), qPrintable(told.text()));
-    QVERIFY(told.text().contains(u"\nhuge.vnt: "_s) && told.text().contains(u"\nlost.vnt: "_s));
-    QCOMPARE(task(u"huge.vnt"_s) + task(u"z.vnt"_s), "oldz");
+    for (const QString& name : {u"huge"_s, u"lost"_s, u"empty"_s, u"part"_s})
+      QVERIFY2(told.text().contains(u'\n' + name + u".vnt: "_s), qPrintable(name + told.text()));
+    for (const QString& name : {u"huge"_s, u"empty"_s, u"part"_s, u"z"_s}) QCOMPARE(task(name + u".vnt"_s), name);
 
     const QString other = fixture.home.makeFolder(u"other"_s);
     QVERIFY(QFile::link(u"/nowhere"_s, other + u"/huge.vnt"_s));
     for (const QString& folder : {u"/proc/sys"_s, other}) {
       const BoxAnswer second(QMessageBox::Ok);
-      copy(fixture, "saveConfigurationButton", folder, folder == other ? klBackupDone() : QString());
+      copy(fixture, "saveConfigurationButton", folder, {});
       QTRY_VERIFY2(second.text().startsWith(klBackupFailed()), qPrintable(second.text()));
       QVERIFY(second.text().contains(u"\nhuge.vnt: "_s) && second.text().contains(u"\nz.vnt: "_s) != (folder == other));
     }
@@ -99,8 +113,8 @@ class tst_TaskBackup : public QObject {
     QFETCH(QString, missing);
     AdminFixture fixture;
     const QString share = fixture.home.makeFolder(u"hanging-share"_s);
-    write(share + u"/a.vnt"_s, "of the share");
-    for (const char* const name : {"a.vnt", "b.vnt"}) write(taskPath(QLatin1String(name)), "here");
+    store(share + u"/a.vnt"_s, u"of the share"_s);
+    for (const char* const name : {"a.vnt", "b.vnt"}) store(taskPath(QLatin1String(name)), u"here"_s);
     fixture.open();
     const Choice choice(share);
     {
@@ -118,7 +132,7 @@ class tst_TaskBackup : public QObject {
     }
     QVERIFY(BackgroundCall::waitForAll(60'000));
     QVERIFY(!QFile::exists(share + u"/b.vnt"_s));
-    QCOMPARE(task(u"a.vnt"_s), "here");
+    QCOMPARE(task(u"a.vnt"_s), u"here"_s);
   }
 };
 

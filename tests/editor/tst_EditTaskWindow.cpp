@@ -143,6 +143,20 @@ class tst_EditTaskWindow : public QObject {
     }
     QCoreApplication::removeTranslator(&translator);
   }
+
+  void labelsAreBlackOnALightGroundAndTheCueCanBeReadOnADarkOne() {
+    EditorFixture fixture;
+    QPalette palette = QApplication::palette();
+    palette.setColor(QPalette::WindowText, QColor(35, 38, 41));
+    fixture.openNew().setPalette(palette);
+    QCOMPARE(fixture.control("outputFolderLabel")->palette().color(QPalette::WindowText), QColor(Qt::black));
+    palette = QPalette(QColor(50, 50, 50), QColor(40, 40, 40));
+    palette.setColor(QPalette::Text, Qt::white);
+    palette.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
+    fixture.dialog().setPalette(palette);
+    const QPalette field = fixture.control("FileNameExclusion")->palette();
+    QCOMPARE(field.color(QPalette::PlaceholderText), QColor(255, 255, 255, 128));
+  }
 };
 
 VANTRY_TEST(tst_EditTaskWindow);

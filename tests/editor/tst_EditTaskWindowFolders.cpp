@@ -5,6 +5,7 @@
 
 #include "EditorFixture.h"
 #include "support/HangingShare.h"
+#include "text/VTULocalization.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -211,6 +212,27 @@ class tst_EditTaskWindowFolders : public QObject {
     QVERIFY(saved->AutoMountInputFolder && !saved->autoMountOutputFolder);
     QCOMPARE((QStringList{saved->inputFolderPath, saved->inputfolderURL, saved->InputLogin, saved->inputPassword}),
              (QStringList{share + u"/in"_s, u"smb://server/a b"_s, u"SHOP\\me"_s, u"secret"_s}));
+  }
+
+  void theSampleForgetsAnotherFolderAndLooksAgainAtASlowOne() {
+    EditorFixture fixture;
+    LiveSample sample(nullptr);
+    auto* const pause = sample.findChild<QTimer*>(u"SamplePause"_s);
+    const auto follow = [&](const QString& folder) {
+      fixture.home.makeFolder(folder);
+      sample.follow({fixture.home.item(folder), {}, {}, {}, {}});
+    };
+    follow(u"in"_s);
+    QTRY_COMPARE(sample.line(), u"There are no files in the input folder"_s);
+    {
+      const HangingShare hangs;
+      follow(u"hanging-share"_s);
+      QCOMPARE(sample.line(), VTULocalization::klSampleLooking());
+      QTRY_COMPARE(sample.line(), VTULocalization::klSampleSlow());
+    }
+    QVERIFY(BackgroundCall::waitForAll(5000) && pause->isActive());
+    pause->setInterval(1);
+    QTRY_COMPARE(sample.line(), u"There are no files in the input folder"_s);
   }
 };
 

@@ -7,6 +7,8 @@
 
 #include "LogFixture.h"
 #include "support/EngineBench.h"
+#include "support/HangingShare.h"
+#include "text/VTULocalization.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -221,6 +223,48 @@ class tst_LogCommands : public QObject {
     QCOMPARE(QApplication::focusWidget(), fixture.list());
     QTest::keyClick(fixture.list(), Qt::Key_Down);
     QTRY_VERIFY(fixture.details().size() > 1);
+  }
+
+  void whatCannotBeDoneNowSaysSo() {
+    LogFixture fixture;
+    const QString folder = fixture.home.makeFolder(u"hanging-share"_s);
+    fixture.home.writeFile(u"hanging-share/a.txt"_s, "a");
+    fixture.run("insert into log (OriginalName, InputFolder) values ('a.txt', '" + folder.toUtf8() + "')");
+    fixture.open();
+    QTRY_COMPARE(fixture.names(), u"a.txt"_s);
+    const auto sendAgain = [&fixture] {
+      delete fixture.window().findChild<QMenu*>(u"LogRowMenu"_s);
+      emit fixture.list()->customContextMenuRequested({5, 5});
+      return fixture.control<QMenu>("LogRowMenu")->actions().first();
+    };
+    fixture.list()->setListIndex(0);
+    QAction* action = nullptr;
+    {
+      const HangingShare hangs;
+      action = sendAgain();
+      QTRY_COMPARE(action->toolTip(), VTULocalization::klLogBusy());
+      QVERIFY(!action->isEnabled());
+    }
+    QTRY_VERIFY(action->isEnabled());
+    fixture.fill(1000);
+    fixture.press("REfreshLogButton");
+    QTRY_COMPARE(fixture.rows(), 1001);
+    fixture.list()->selectAll();
+    action = sendAgain();
+    QVERIFY(!action->isEnabled() && action->toolTip() == VTULocalization::klSendAgainTooMany());
+    delete action->parent();
+
+    Sql stranger(fixture.file().NativePath());
+    stranger.run("begin immediate");
+    const BoxAnswer told(QMessageBox::Ok);
+    const auto isTold = [&] {
+      if (told.text().isEmpty()) fixture.press("DeleteLogs");  // each hangs, until no more are begun
+      return !told.text().isEmpty();
+    };
+    QTRY_VERIFY(isTold());
+    QCOMPARE(told.text(), VTULocalization::klLogBusy());
+    QCOMPARE(fixture.note(), VTULocalization::klLogCleared());
+    stranger.run("rollback");
   }
 };
 

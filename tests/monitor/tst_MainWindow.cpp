@@ -2,6 +2,7 @@
 
 #include <QDesktopServices>
 #include <QDir>
+#include <QMenuBar>
 #include <QSignalSpy>
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -12,6 +13,7 @@
 #include "editor/EditTaskWindow.h"
 #include "monitor/MonitorText.h"
 #include "text/VTULocalization.h"
+#include "widgets/Mnemonics.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -115,6 +117,8 @@ class tst_MainWindow : public QObject {
     tasks[0]->AutoMountInputFolder = true;
     tasks[0]->inputfolderURL = u"smb://server/share"_s;
     tasks[1]->Busy = tasks[1]->leftBehind = true;
+    tasks[1]->disabled = true;
+    tasks[1]->UploadedCount = 7;
     UploaderTask::setMountOperation([&mounted](const MountRequest&, int&) { return mounted.acquire(), QString(); });
     UploadThread::Enabled = true;
     UploadThread::Start();
@@ -136,6 +140,9 @@ class tst_MainWindow : public QObject {
     QVERIFY(!UploadThread::Enabled && Problems::present().last().kind == Problem::Kind::TaskFolderUnreadable);
     failing = false;
     QTRY_COMPARE(fixture.names(), u"A|B|Restored"_s);
+    const TaskPointer kept = UploaderTask::getTaskWIthName(u"B"_s);
+    QVERIFY(kept != tasks[1] && kept->disabled && !UploaderTask::getTaskWIthName(u"Restored"_s)->disabled);
+    QCOMPARE(kept->UploadedCount, 7);
     QVERIFY(UploadThread::Enabled && UploadThread::stop(60'000));
     UploaderTask::setMountOperation({});
     UploaderTask::setTriedAutoMount(false);
@@ -230,6 +237,17 @@ class tst_MainWindow : public QObject {
     QDesktopServices::unsetUrlHandler(u"https"_s);
     const QString manual = u"https://"_s + QLatin1String(ManualHost) + u"/other_tools/en/manual/uploader"_s;
     QCOMPARE(m_opened, (QList<QUrl>{QUrl(manual), QUrl(manual), QUrl(manual + u"#autorec"_s)}));
+  }
+
+  void eachButtonAndMenuHasALetterOfItsOwn() {
+    WindowFixture fixture;
+    QStringList captions;
+    for (const QAction* const menu : fixture.window().menuBar()->actions()) captions << menu->text();
+    for (const QPushButton* const button : fixture.window().findChildren<QPushButton*>()) captions << button->text();
+    QStringList letters;
+    for (const QString& caption : captions) letters << QKeySequence::mnemonic(caption).toString();
+    QVERIFY2(letters.size() == 8 && !letters.contains(QString()), qPrintable(captions.join(u' ')));
+    QVERIFY2(letters.removeDuplicates() == 0, qPrintable(captions.join(u' ')));
   }
 };
 

@@ -170,6 +170,18 @@ class tst_SystemLogWindow : public QObject {
     QVERIFY2(longestInsert < 5000, qPrintable(QString::number(longestInsert)));
     QVERIFY(Problems::present().isEmpty());
   }
+
+  void itComesUpAsLargeAsItWasAndItsCueCanBeRead() {
+    LogFixture fixture;
+    fixture.open().setWindowState(Qt::WindowMaximized | Qt::WindowMinimized);
+    SystemLogWindow::bringUp();
+    QCOMPARE(fixture.window().windowState() & (Qt::WindowMaximized | Qt::WindowMinimized), Qt::WindowMaximized);
+    QPalette dark(QColor(50, 50, 50), QColor(40, 40, 40));
+    dark.setColor(QPalette::Text, Qt::white);
+    dark.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
+    fixture.window().setPalette(dark);
+    QCOMPARE(fixture.control("FindField")->palette().color(QPalette::PlaceholderText), QColor(255, 255, 255, 128));
+  }
 };
 
 VANTRY_TEST(tst_SystemLogWindow);
