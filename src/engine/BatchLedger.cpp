@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <utility>
 
 // A local kernel dates a file up to one tick before the moment of writing, in seconds.
 static constexpr double KernelTick = 0.01;
@@ -116,11 +117,21 @@ double BatchLedger::close(const Date& began) {
   limit = std::max(limit, std::min(m_limit, began.TotalSeconds()));
 
   m_dealtWith.removeIf([&](const auto& entry) {
-    const double date = secondsOf(entry.value());
-    return date <= limit - WindowSeconds || (date > limit && !m_lastListing.contains(entry.key()));
+    return secondsOf(entry.value()) > limit && !m_lastListing.contains(entry.key());
   });
+  forgetBelow(limit - WindowSeconds);
   m_limit = limit;
   return limit;
+}
+
+void BatchLedger::forgetBelow(double date) {
+  std::vector<std::pair<qint64, Fingerprint>> below;
+  for (auto it = m_dealtWith.cbegin(); it != m_dealtWith.cend(); ++it)
+    if (secondsOf(it.value()) <= date) below.emplace_back(it.value(), it.key());
+  if (below.size() <= MostBelowWindow) return;
+  const auto kept = below.end() - MostBelowWindow;
+  std::nth_element(below.begin(), kept, below.end());
+  for (auto it = below.begin(); it != kept; ++it) m_dealtWith.remove(it->second);
 }
 
 QString BatchLedger::toText() const {
