@@ -144,13 +144,22 @@ QString BatchLedger::toText() const {
   return QString::fromLatin1(bytes.toBase64());
 }
 
-void BatchLedger::fromText(const QString& text) {
-  m_dealtWith.clear();
+bool BatchLedger::addText(const QString& text) {
   const auto result = QByteArray::fromBase64Encoding(text.toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
-  m_hasMemory = result && result.decoded.size() % 16 == 0;
-  if (!m_hasMemory) return;
+  if (!result || result.decoded.size() % 16 != 0) return false;
   for (qsizetype i = 0; i < result.decoded.size(); i += 16) {
     const char* pair = result.decoded.constData() + i;
     m_dealtWith.insert(qFromLittleEndian<quint64>(pair), qFromLittleEndian<qint64>(pair + 8));
   }
+  return true;
+}
+
+void BatchLedger::fromText(const QString& text) {
+  m_dealtWith.clear();
+  m_hasMemory = addText(text);
+}
+
+void BatchLedger::takeOver(const QString& text, double dateLimit) {
+  takeLimit(dateLimit);
+  if (addText(text)) m_hasMemory = true;
 }

@@ -51,6 +51,8 @@ class BatchLedger {
   /// The memory as text for the preference file, and back. A text that isn't one gives an empty memory.
   [[nodiscard]] QString toText() const;
   void fromText(const QString& text);
+  /// Adds what another ledger of the same folder wrote together with that limit: its versions are dealt with here too.
+  void takeOver(const QString& text, double dateLimit);
 
  private:
   struct Observation {
@@ -70,6 +72,8 @@ class BatchLedger {
   };
   [[nodiscard]] Judgement judgeVersion(const ScannedFile& file, const Date& began, qint64 monotonicMs) const;
   [[nodiscard]] Rest rest(const ScannedFile& file, const Date& began, qint64 monotonicMs) const;
+  /// False for a text that isn't a memory.
+  [[nodiscard]] bool addText(const QString& text);
   /// Drops the memory if the limit was set back.
   void takeLimit(double dateLimit);
   /// Forgets the oldest of the versions dated `date` or earlier, down to MostBelowWindow.

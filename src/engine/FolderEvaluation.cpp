@@ -12,18 +12,30 @@ using namespace Qt::Literals::StringLiterals;
 
 static QString limitKey(const QString& name) { return name + u"lastprocessed"_s; }
 
-// The ledger belongs to a folder as much as to a name: tasks of one name share their limit, not their files.
+// The ledger belongs to a folder as much as to a name: tasks of one name share their limit, and their files only where
+// they share the folder.
 static QString ledgerKey(const QString& name, const QString& folder) { return name + u"lastversions "_s + folder; }
 
 double storedDateLimit(const QString& name) {
   return VantryUtil::prefs ? VantryUtil::prefs->DoubleValue(limitKey(name)) : 0;
 }
 
-BatchLedger storedLedger(const QString& name, const QString& inputFolderPath) {
-  BatchLedger ledger;
+/// A null string if nothing is stored.
+static QString storedText(const QString& name, const QString& inputFolderPath) {
   const QString key = ledgerKey(name, inputFolderPath);
-  if (VantryUtil::prefs && VantryUtil::prefs->HasKey(key)) ledger.fromText(VantryUtil::prefs->StringValue(key));
+  if (!VantryUtil::prefs || !VantryUtil::prefs->HasKey(key)) return {};
+  const QString text = VantryUtil::prefs->StringValue(key);
+  return text.isNull() ? u""_s : text;
+}
+
+static BatchLedger ledgerFrom(const QString& text) {
+  BatchLedger ledger;
+  if (!text.isNull()) ledger.fromText(text);
   return ledger;
+}
+
+BatchLedger storedLedger(const QString& name, const QString& inputFolderPath) {
+  return ledgerFrom(storedText(name, inputFolderPath));
 }
 
 void UploaderTask::getDateLimit() { dateLimit = storedDateLimit(Name); }
@@ -69,6 +81,7 @@ UploaderTask::FolderLook UploaderTask::lookAtInputFolder() {
   Problems::clear(Problem::Kind::InputFolderUnreadable, Name);
   const std::lock_guard lock(m_ledgerMutex);
   if (VantryUtil::prefs && clearedMeanwhile()) m_ledger = {}, m_ledgerStored = false;
+  takeOverStored(dateLimit);
   look.files = readLedger().look(listing.files, dateLimit, look.began, clock.monotonicMs());
   return look;
 }
@@ -76,9 +89,22 @@ UploaderTask::FolderLook UploaderTask::lookAtInputFolder() {
 qint64 UploaderTask::getFileCount() { return static_cast<qint64>(lookAtInputFolder().files.due.size()); }
 
 BatchLedger& UploaderTask::readLedger() {
-  if (!m_ledgerRead) m_ledger = storedLedger(Name, inputFolderPath);
+  if (!m_ledgerRead) {
+    m_ledgerText = storedText(Name, inputFolderPath);
+    m_ledger = ledgerFrom(m_ledgerText);
+  }
   m_ledgerRead = true;
   return m_ledger;
+}
+
+void UploaderTask::takeOverStored(double limit) {
+  BatchLedger& ledger = readLedger();
+  const QString stored = storedText(Name, inputFolderPath);
+  if (stored == m_ledgerText) return;
+  m_ledgerText = stored;
+  if (stored.isNull()) return;
+  ledger.takeOver(stored, limit);
+  m_ledgerStored = true;
 }
 
 void UploaderTask::dealtWith(const ScannedFile& scanned) {
@@ -129,7 +155,9 @@ void UploaderTask::storeLedger(std::optional<double> limit) {
     const std::lock_guard lock(m_ledgerMutex);
     if (clearedMeanwhile()) return;  // all is due again
     if (limit) VantryUtil::prefs->setDoubleValue(limitKey(Name), *limit);
-    VantryUtil::prefs->setStringValue(ledgerKey(Name, inputFolderPath), readLedger().toText());
+    takeOverStored(limit.value_or(dateLimit));
+    m_ledgerText = readLedger().toText();
+    VantryUtil::prefs->setStringValue(ledgerKey(Name, inputFolderPath), m_ledgerText);
     m_ledgerStored = true;
   }
   savePreferences();

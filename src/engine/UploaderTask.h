@@ -164,12 +164,15 @@ class UploaderTask {
   std::optional<RegEx> exclusionRegEx;
   [[nodiscard]] FolderScanResult listInputFolder(double above);
   BatchLedger& readLedger();
+  /// Adds what another task of this name and folder has stored since this one last read or stored.
+  void takeOverStored(double limit);
   [[nodiscard]] bool clearedMeanwhile() const;
   void storeLedger(std::optional<double> limit);
-  mutable std::mutex m_ledgerMutex;  // guards the three below
+  mutable std::mutex m_ledgerMutex;  // guards the four below
   BatchLedger m_ledger;
+  QString m_ledgerText;  // as last read or stored
   bool m_ledgerRead = false;
-  bool m_ledgerStored = false;  // by this object
+  bool m_ledgerStored = false;  // by this object, or by another since it began
   bool m_outputSwept = false;
   std::optional<quint64> m_inputDevice, m_outputDevice;  // at the last good look
 };

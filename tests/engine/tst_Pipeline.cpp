@@ -323,6 +323,33 @@ class tst_Pipeline : public QObject {
     QCOMPARE(bench.files(u"out"_s).filter(u"b.txt"_s).size(), 1);
   }
 
+  void tasksOfOneNameAndFolderSendAFileOnce() {
+    EngineBench bench;
+    const TaskPointer first = bench.makeTask(), second = bench.makeTask();
+    const auto pass = [&](const TaskPointer& a, const TaskPointer& b) {
+      for (const TaskPointer& task : {a, b}) EngineBench::process(*task);
+    };
+    pass(first, second);
+    bench.clock.advance(100);
+    bench.drop(u"a.txt"_s);
+    pass(first, second);
+    QCOMPARE(bench.received(), QStringList{u"a.txt"_s});
+    bench.clock.advance(100);
+    bench.drop(u"b.txt"_s);
+    pass(second, first);
+    // Nor does one forget what the other has stored when ours was set back.
+    bench.clock.jump(-300);
+    bench.drop(u"c.txt"_s);
+    for (int i = 0; i < 2; ++i) bench.clock.advance(4), pass(first, second);
+    bench.restart();
+    pass(bench.makeTask(), bench.makeTask());
+    QCOMPARE(bench.received(), (QStringList{u"a.txt"_s, u"b.txt"_s, u"c.txt"_s}));
+    bench.clock.advance(1000);
+    first->updateDateLimit(true);
+    pass(second, first);
+    QCOMPARE(bench.received().size(), 6);
+  }
+
   void clearingTheLimitSendsTheFolderAgain() {
     EngineBench bench;
     bench.drop(u"a.txt"_s);
