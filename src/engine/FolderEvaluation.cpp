@@ -83,6 +83,7 @@ UploaderTask::FolderLook UploaderTask::lookAtInputFolder() {
   if (VantryUtil::prefs && clearedMeanwhile()) m_ledger = {}, m_ledgerStored = false;
   takeOverStored(dateLimit);
   look.files = readLedger().look(listing.files, dateLimit, look.began, clock.monotonicMs());
+  if (look.files.due.empty() && look.files.waiting.empty()) Problems::clear(Problem::Kind::FileWaits, Name);
   return look;
 }
 

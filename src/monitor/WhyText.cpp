@@ -131,6 +131,7 @@ bool concerns(const Problem& problem, const UploaderTask& task) {
       return true;
     case Problem::Kind::CopyFailed:
     case Problem::Kind::UploadFailed:
+    case Problem::Kind::FileWaits:
     case Problem::Kind::RunFailed:
     case Problem::Kind::InputFolderUnreadable:
     case Problem::Kind::FolderSilent:

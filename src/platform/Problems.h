@@ -23,6 +23,7 @@ struct Problem {
     ShareNotMounted,        ///< subject: the share's address; detail: why
     CopyFailed,             ///< subject: task; detail: file and why
     UploadFailed,           ///< subject: task; detail: file and why
+    FileWaits,              ///< subject: task; detail: file and why it can't be read for now
     RunFailed,              ///< subject: task; detail: the exception's words
     ServiceUnreachable,     ///< detail: from whom no answer came
   };

@@ -92,6 +92,8 @@ static QString textOf(Problem::Kind kind) {
       return klStripCopyFailed();
     case Problem::Kind::UploadFailed:
       return klStripUploadFailed();
+    case Problem::Kind::FileWaits:
+      return klStripFileWaits();
     case Problem::Kind::RunFailed:
       return klStripRunFailed();
     case Problem::Kind::ServiceUnreachable:

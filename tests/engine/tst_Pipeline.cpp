@@ -1,8 +1,10 @@
 // One batch, end to end: what the service received, what lies on the disk, what the log says.
 
+#include <fcntl.h>
 #include <sys/stat.h>
 
 #include <QDir>
+#include <csignal>
 
 #include "engine/UploadThread.h"
 #include "platform/Problems.h"
@@ -321,6 +323,26 @@ class tst_Pipeline : public QObject {
     QCOMPARE(bench.notes().size(), cleared ? 3 : 2);
     QTEST(static_cast<int>(bench.files(u"out"_s).filter(u"a.txt"_s).size()), "sentOfA");
     QCOMPARE(bench.files(u"out"_s).filter(u"b.txt"_s).size(), 1);
+  }
+
+  void aFileThatAnotherProgramHoldsALeaseOnWaits() {
+    EngineBench bench;
+    const QByteArray held = QFile::encodeName(bench.drop(u"a.txt"_s));
+    bench.drop(u"b.txt"_s);
+    const TaskPointer task = bench.makeTask();
+    const auto before = std::signal(SIGIO, SIG_IGN);  // tells the holder that somebody waits
+    const int holder = ::open(held.constData(), O_RDONLY | O_CLOEXEC);
+    QCOMPARE(::fcntl(holder, F_SETLEASE, F_WRLCK), 0);
+    EngineBench::process(*task);
+    QCOMPARE(bench.received(), QStringList{u"b.txt"_s});
+    QCOMPARE(bench.log().size(), 1);
+    QCOMPARE(Problems::present().value(0).kind, Problem::Kind::FileWaits);
+    ::close(holder);
+    std::signal(SIGIO, before);
+    bench.clock.advance(4);
+    EngineBench::process(*task);
+    QCOMPARE(bench.received(), (QStringList{u"b.txt"_s, u"a.txt"_s}));
+    QVERIFY(Problems::present().isEmpty());
   }
 
   void tasksOfOneNameAndFolderSendAFileOnce() {
