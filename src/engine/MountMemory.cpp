@@ -1,6 +1,11 @@
 #include "engine/MountMemory.h"
 
+#include <QHash>
+#include <mutex>
+
 #include "engine/UploaderTask.h"
+#include "platform/Clock.h"
+#include "platform/Mount.h"
 #include "storage/Preferences.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -13,13 +18,30 @@ QByteArray toRemember(const MountTable& table, const QByteArray& path, const QBy
   return point == "/" ? QByteArray() : point;  // that one is always there
 }
 
+/// True at most once in 30 s for a path: of five failed mounts in 10 s systemd makes an end of the automounting.
+static bool mayWake(const QByteArray& path) {
+  constexpr qint64 pauseMs = 30'000;
+  static std::mutex mutex;  // guards the one below
+  static QHash<QByteArray, qint64> lastMs;
+  const std::lock_guard lock(mutex);
+  const qint64 now = Clock::system().monotonicMs();
+  const auto last = lastMs.constFind(path);
+  if (last != lastMs.cend() && now - *last < pauseMs) return false;
+  lastMs.insert(path, now);
+  return true;
+}
+
 QString missingMountPoint(const FolderItem& folder) {
   const auto path = folder.WithoutLinks();
   if (!path) return {};
   const auto& prefs = VantryUtil::prefs;
   const QString key = keyOf(folder.NativePath());
   const QByteArray remembered = prefs ? prefs->StringValue(key).toUtf8() : QByteArray();
-  const MountTable table = MountTable::present();
+  MountTable table = MountTable::present();
+  if (table.entryOf(*path).type == "autofs" && mayWake(*path)) {
+    wakeAutomount(*path);
+    table = MountTable::present();
+  }
   const QByteArray missing = table.missingFor(*path, remembered);
   if (!missing.isEmpty()) return QString::fromUtf8(missing);
 

@@ -111,10 +111,11 @@ UploaderTask::StatusValue UploaderTask::lookAtFolders() {
   TryAutoMount(false);
   QString bare;
   const auto usable = [&bare](const std::optional<FolderItem>& folder) {
-    if (!folder || !folder->Directory() || !folder->IsWriteable()) return false;
+    if (!folder || !folder->Directory()) return false;
+    // Comes first: an automounter's trap may be writable by nobody, and is gone once the share is there.
     const QString missing = missingMountPoint(*folder);
     if (!missing.isEmpty()) bare = missing;
-    return missing.isEmpty();
+    return missing.isEmpty() && folder->IsWriteable();
   };
   const bool ready = usable(inputFolder) && (outputFolderPath.isEmpty() || usable(outputFolder));
   if (bare.isEmpty())

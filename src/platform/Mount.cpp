@@ -4,12 +4,14 @@
 #include "platform/Mount.h"
 
 #include <dirent.h>
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <chrono>
 #include <memory>
 
 #include "platform/FileCipher.h"
+#include "platform/FolderCall.h"
 #include "platform/System.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -214,6 +216,12 @@ QString shareForDisplay(const QString& url) {
   const qsizetype end = url.indexOf(u'/', server);
   const qsizetype at = url.lastIndexOf(u'@', end < 0 ? -1 : end);
   return (at < server ? url : url.left(server) + url.mid(at + 1)).trimmed();
+}
+
+void wakeAutomount(const QByteArray& path) {
+  const FolderCall call;
+  const int folder = ::open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (folder >= 0) ::close(folder);
 }
 
 QString mountShare(const MountRequest& request, int& errorCode, int limitMs) {
