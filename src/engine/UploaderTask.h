@@ -159,6 +159,10 @@ class UploaderTask {
   double dateLimit = 0;  ///< seconds since 1970 UTC; 0: every file is new enough
 
  private:
+  /// Has `look` done at the task's folders. False, and status 3, if it hangs or throws; what it throws is recorded
+  /// once, until a look at the input folder is good or it throws something else.
+  [[nodiscard]] static bool lookAt(const TaskPointer& task, std::function<void()> look);
+  QString m_lookFailure;  ///< of the upload thread; as recorded last
   void buildExclusionRegEx();
   QString mExclusionPattern;
   std::optional<RegEx> exclusionRegEx;
