@@ -116,9 +116,8 @@ double BatchLedger::close(const Date& began) {
   }
   limit = std::max(limit, std::min(m_limit, began.TotalSeconds()));
 
-  m_dealtWith.removeIf([&](const auto& entry) {
-    return secondsOf(entry.value()) > limit && !m_lastListing.contains(entry.key());
-  });
+  m_dealtWith.removeIf(
+      [&](const auto& entry) { return secondsOf(entry.value()) > limit && !m_lastListing.contains(entry.key()); });
   forgetBelow(limit - WindowSeconds);
   m_limit = limit;
   return limit;

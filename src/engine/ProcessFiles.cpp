@@ -38,9 +38,8 @@ class BusyFlag {
 /// A failure of the disk, the share or the machine and not of the file, which therefore waits for a later look. EAGAIN
 /// is that of a file which another process holds a lease on, as a file server does for its clients.
 bool mayPass(int error) {
-  constexpr int known[] = {EIO,          ENOTCONN,    ESTALE,       ETIMEDOUT,  EHOSTDOWN, EREMOTEIO,
-                           EHOSTUNREACH, ENETUNREACH, ECONNABORTED, ECONNRESET, EAGAIN,    EBUSY,
-                           ETXTBSY,      EMFILE,      ENFILE,       ENOMEM};
+  constexpr int known[] = {EIO,          ENOTCONN,   ESTALE, ETIMEDOUT, EHOSTDOWN, EREMOTEIO, EHOSTUNREACH, ENETUNREACH,
+                           ECONNABORTED, ECONNRESET, EAGAIN, EBUSY,     ETXTBSY,   EMFILE,    ENFILE,       ENOMEM};
   return std::find(std::begin(known), std::end(known), error) != std::end(known);
 }
 
