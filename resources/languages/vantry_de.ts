@@ -367,6 +367,10 @@ Dann werden alle Dateien im Eingabeordner verarbeitet, unabhängig von ihrem Alt
             <source>Task &quot;$1&quot; could not send a file: $2. When this is repaired, save the file into the input folder again.</source>
             <translation>Die Aufgabe „$1“ konnte eine Datei nicht senden: $2. Wenn das behoben ist, speichern Sie die Datei noch einmal in den Eingabeordner.</translation>
         </message>
+        <message id="VTULocalization.klStripFileWaits">
+            <source>Task &quot;$1&quot; can't read a file at the moment: $2. It is tried again by itself.</source>
+            <translation>Die Aufgabe „$1“ kann eine Datei zurzeit nicht lesen: $2. Es wird von selbst neu versucht.</translation>
+        </message>
         <message id="VTULocalization.klStripRunFailed">
             <source>Task &quot;$1&quot; was stopped by a fault: $2. It is tried again by itself; if this line stays, start the program again.</source>
             <translation>Die Aufgabe „$1“ wurde durch einen Fehler angehalten: $2. Sie wird von selbst neu versucht; bleibt diese Zeile stehen, starten Sie das Programm neu.</translation>

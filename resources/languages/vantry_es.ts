@@ -367,6 +367,10 @@ Se procesarán todos los archivos de la carpeta de entrada, sea cual sea su anti
             <source>Task &quot;$1&quot; could not send a file: $2. When this is repaired, save the file into the input folder again.</source>
             <translation>La tarea «$1» no pudo enviar un archivo: $2. Cuando esté resuelto, guarde de nuevo el archivo en la carpeta de entrada.</translation>
         </message>
+        <message id="VTULocalization.klStripFileWaits">
+            <source>Task &quot;$1&quot; can't read a file at the moment: $2. It is tried again by itself.</source>
+            <translation>La tarea «$1» no puede leer un archivo por el momento: $2. Se volverá a intentar automáticamente.</translation>
+        </message>
         <message id="VTULocalization.klStripRunFailed">
             <source>Task &quot;$1&quot; was stopped by a fault: $2. It is tried again by itself; if this line stays, start the program again.</source>
             <translation>Un fallo detuvo la tarea «$1»: $2. Se volverá a intentar automáticamente; si esta línea permanece, reinicie el programa.</translation>

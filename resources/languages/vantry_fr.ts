@@ -367,6 +367,10 @@ Tous les fichiers du dossier d’entrée seront alors traités, quel que soit le
             <source>Task &quot;$1&quot; could not send a file: $2. When this is repaired, save the file into the input folder again.</source>
             <translation>La tâche « $1 » n’a pas pu envoyer un fichier : $2. Une fois le problème résolu, enregistrez de nouveau le fichier dans le dossier d’entrée.</translation>
         </message>
+        <message id="VTULocalization.klStripFileWaits">
+            <source>Task &quot;$1&quot; can't read a file at the moment: $2. It is tried again by itself.</source>
+            <translation>La tâche « $1 » ne peut pas lire un fichier pour le moment : $2. Une nouvelle tentative aura lieu automatiquement.</translation>
+        </message>
         <message id="VTULocalization.klStripRunFailed">
             <source>Task &quot;$1&quot; was stopped by a fault: $2. It is tried again by itself; if this line stays, start the program again.</source>
             <translation>La tâche « $1 » a été arrêtée par une erreur : $2. Elle sera relancée automatiquement ; si cette ligne persiste, redémarrez le programme.</translation>

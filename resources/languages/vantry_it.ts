@@ -367,6 +367,10 @@ Tutti i file della cartella di input verranno elaborati, indipendentemente dalla
             <source>Task &quot;$1&quot; could not send a file: $2. When this is repaired, save the file into the input folder again.</source>
             <translation>L’attività «$1» non ha potuto inviare un file: $2. Risolto il problema, salvare di nuovo il file nella cartella di input.</translation>
         </message>
+        <message id="VTULocalization.klStripFileWaits">
+            <source>Task &quot;$1&quot; can't read a file at the moment: $2. It is tried again by itself.</source>
+            <translation>L’attività «$1» al momento non può leggere un file: $2. Verrà ritentata automaticamente.</translation>
+        </message>
         <message id="VTULocalization.klStripRunFailed">
             <source>Task &quot;$1&quot; was stopped by a fault: $2. It is tried again by itself; if this line stays, start the program again.</source>
             <translation>L’attività «$1» è stata fermata da un errore: $2. Verrà ritentata automaticamente; se questa riga rimane, riavviare il programma.</translation>

@@ -367,6 +367,10 @@ This will force all files in the input folder to be processed regardless of age 
             <source>Task &quot;$1&quot; could not send a file: $2. When this is repaired, save the file into the input folder again.</source>
             <translation>タスク「$1」はファイルを送信できませんでした: $2。解決したら、ファイルを入力フォルダーにもう一度保存してください。</translation>
         </message>
+        <message id="VTULocalization.klStripFileWaits">
+            <source>Task &quot;$1&quot; can't read a file at the moment: $2. It is tried again by itself.</source>
+            <translation>タスク「$1」は現在ファイルを読み取れません: $2。自動的に再試行されます。</translation>
+        </message>
         <message id="VTULocalization.klStripRunFailed">
             <source>Task &quot;$1&quot; was stopped by a fault: $2. It is tried again by itself; if this line stays, start the program again.</source>
             <translation>タスク「$1」はエラーで停止しました: $2。自動的に再試行されます。この表示が消えない場合は、プログラムを再起動してください。</translation>

@@ -367,6 +367,10 @@ Alle bestanden in de invoermap worden dan verwerkt, ongeacht hun leeftijd en ook
             <source>Task &quot;$1&quot; could not send a file: $2. When this is repaired, save the file into the input folder again.</source>
             <translation>Taak “$1” kon een bestand niet verzenden: $2. Sla het bestand opnieuw op in de invoermap als dit is verholpen.</translation>
         </message>
+        <message id="VTULocalization.klStripFileWaits">
+            <source>Task &quot;$1&quot; can't read a file at the moment: $2. It is tried again by itself.</source>
+            <translation>Taak “$1” kan een bestand momenteel niet lezen: $2. Er wordt vanzelf een nieuwe poging gedaan.</translation>
+        </message>
         <message id="VTULocalization.klStripRunFailed">
             <source>Task &quot;$1&quot; was stopped by a fault: $2. It is tried again by itself; if this line stays, start the program again.</source>
             <translation>Taak “$1” is gestopt door een fout: $2. Er wordt vanzelf een nieuwe poging gedaan; blijft deze regel staan, start het programma dan opnieuw.</translation>

@@ -367,6 +367,10 @@ Zostaną wtedy przetworzone wszystkie pliki z folderu wejścia, niezależnie od 
             <source>Task &quot;$1&quot; could not send a file: $2. When this is repaired, save the file into the input folder again.</source>
             <translation>Zadanie „$1” nie mogło wysłać pliku: $2. Po usunięciu przyczyny zapisz plik ponownie w folderze wejścia.</translation>
         </message>
+        <message id="VTULocalization.klStripFileWaits">
+            <source>Task &quot;$1&quot; can't read a file at the moment: $2. It is tried again by itself.</source>
+            <translation>Zadanie „$1” nie może w tej chwili odczytać pliku: $2. Próba zostanie ponowiona automatycznie.</translation>
+        </message>
         <message id="VTULocalization.klStripRunFailed">
             <source>Task &quot;$1&quot; was stopped by a fault: $2. It is tried again by itself; if this line stays, start the program again.</source>
             <translation>Zadanie „$1” zatrzymał błąd: $2. Próba zostanie ponowiona automatycznie; jeśli ten wiersz nie zniknie, uruchom program ponownie.</translation>

@@ -367,6 +367,10 @@ Todos os arquivos da pasta de entrada serão processados, qualquer que seja a id
             <source>Task &quot;$1&quot; could not send a file: $2. When this is repaired, save the file into the input folder again.</source>
             <translation>A tarefa “$1” não conseguiu enviar um arquivo: $2. Depois de resolver isso, salve o arquivo novamente na pasta de entrada.</translation>
         </message>
+        <message id="VTULocalization.klStripFileWaits">
+            <source>Task &quot;$1&quot; can't read a file at the moment: $2. It is tried again by itself.</source>
+            <translation>A tarefa “$1” não consegue ler um arquivo no momento: $2. Uma nova tentativa será feita automaticamente.</translation>
+        </message>
         <message id="VTULocalization.klStripRunFailed">
             <source>Task &quot;$1&quot; was stopped by a fault: $2. It is tried again by itself; if this line stays, start the program again.</source>
             <translation>A tarefa “$1” foi interrompida por uma falha: $2. Ela será tentada de novo automaticamente; se esta linha permanecer, reinicie o programa.</translation>

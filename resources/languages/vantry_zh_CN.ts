@@ -367,6 +367,10 @@ This will force all files in the input folder to be processed regardless of age 
             <source>Task &quot;$1&quot; could not send a file: $2. When this is repaired, save the file into the input folder again.</source>
             <translation>任务“$1”未能发送文件：$2。解决后请将该文件重新保存到输入文件夹。</translation>
         </message>
+        <message id="VTULocalization.klStripFileWaits">
+            <source>Task &quot;$1&quot; can't read a file at the moment: $2. It is tried again by itself.</source>
+            <translation>任务“$1”目前无法读取某个文件：$2。程序会自动重试。</translation>
+        </message>
         <message id="VTULocalization.klStripRunFailed">
             <source>Task &quot;$1&quot; was stopped by a fault: $2. It is tried again by itself; if this line stays, start the program again.</source>
             <translation>任务“$1”因故障停止：$2。程序会自动重试；如果此提示一直存在，请重新启动程序。</translation>

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <utility>
 
 // A local kernel dates a file up to one tick before the moment of writing, in seconds.
 static constexpr double KernelTick = 0.01;
@@ -115,12 +116,21 @@ double BatchLedger::close(const Date& began) {
   }
   limit = std::max(limit, std::min(m_limit, began.TotalSeconds()));
 
-  m_dealtWith.removeIf([&](const auto& entry) {
-    const double date = secondsOf(entry.value());
-    return date <= limit - WindowSeconds || (date > limit && !m_lastListing.contains(entry.key()));
-  });
+  m_dealtWith.removeIf(
+      [&](const auto& entry) { return secondsOf(entry.value()) > limit && !m_lastListing.contains(entry.key()); });
+  forgetBelow(limit - WindowSeconds);
   m_limit = limit;
   return limit;
+}
+
+void BatchLedger::forgetBelow(double date) {
+  std::vector<std::pair<qint64, Fingerprint>> below;
+  for (auto it = m_dealtWith.cbegin(); it != m_dealtWith.cend(); ++it)
+    if (secondsOf(it.value()) <= date) below.emplace_back(it.value(), it.key());
+  if (below.size() <= MostBelowWindow) return;
+  const auto kept = below.end() - MostBelowWindow;
+  std::nth_element(below.begin(), kept, below.end());
+  for (auto it = below.begin(); it != kept; ++it) m_dealtWith.remove(it->second);
 }
 
 QString BatchLedger::toText() const {
@@ -133,13 +143,22 @@ QString BatchLedger::toText() const {
   return QString::fromLatin1(bytes.toBase64());
 }
 
-void BatchLedger::fromText(const QString& text) {
-  m_dealtWith.clear();
+bool BatchLedger::addText(const QString& text) {
   const auto result = QByteArray::fromBase64Encoding(text.toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
-  m_hasMemory = result && result.decoded.size() % 16 == 0;
-  if (!m_hasMemory) return;
+  if (!result || result.decoded.size() % 16 != 0) return false;
   for (qsizetype i = 0; i < result.decoded.size(); i += 16) {
     const char* pair = result.decoded.constData() + i;
     m_dealtWith.insert(qFromLittleEndian<quint64>(pair), qFromLittleEndian<qint64>(pair + 8));
   }
+  return true;
+}
+
+void BatchLedger::fromText(const QString& text) {
+  m_dealtWith.clear();
+  m_hasMemory = addText(text);
+}
+
+void BatchLedger::takeOver(const QString& text, double dateLimit) {
+  takeLimit(dateLimit);
+  if (addText(text)) m_hasMemory = true;
 }

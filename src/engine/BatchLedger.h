@@ -20,6 +20,9 @@ class BatchLedger {
   /// A file whose size or date moved within this time is still being written, in milliseconds. Where dates are kept
   /// in whole seconds the step is added.
   static constexpr qint64 RestMs = 2000;
+  /// So many versions dated below that are remembered besides, the newest: a listing reaches back to them when our
+  /// clock is set back.
+  static constexpr size_t MostBelowWindow = 1000;
 
   struct Selection {
     std::vector<ScannedFile> due;      ///< at rest and not dealt with in this version
@@ -48,6 +51,8 @@ class BatchLedger {
   /// The memory as text for the preference file, and back. A text that isn't one gives an empty memory.
   [[nodiscard]] QString toText() const;
   void fromText(const QString& text);
+  /// Adds what another ledger of the same folder wrote together with that limit: its versions are dealt with here too.
+  void takeOver(const QString& text, double dateLimit);
 
  private:
   struct Observation {
@@ -67,8 +72,12 @@ class BatchLedger {
   };
   [[nodiscard]] Judgement judgeVersion(const ScannedFile& file, const Date& began, qint64 monotonicMs) const;
   [[nodiscard]] Rest rest(const ScannedFile& file, const Date& began, qint64 monotonicMs) const;
+  /// False for a text that isn't a memory.
+  [[nodiscard]] bool addText(const QString& text);
   /// Drops the memory if the limit was set back.
   void takeLimit(double dateLimit);
+  /// Forgets the oldest of the versions dated `date` or earlier, down to MostBelowWindow.
+  void forgetBelow(double date);
 
   QHash<Fingerprint, qint64> m_dealtWith;     // fingerprint of name, size and date -> date in ns
   QHash<QByteArray, Observation> m_observed;  // of the last listing, without what is dealt with

@@ -14,7 +14,8 @@ using namespace Qt::Literals::StringLiterals;
 
 static QString limitKey(const QString& name) { return name + u"lastprocessed"_s; }
 
-// The ledger belongs to a folder as much as to a name: tasks of one name share their limit, not their files.
+// The ledger belongs to a folder as much as to a name: tasks of one name share their limit, and their files only where
+// they share the folder.
 static QString ledgerKey(const QString& name, const QString& folder) { return name + u"lastversions "_s + folder; }
 
 static std::mutex memoryMutex;  // guards the one below, and holds limit and ledger of prefs together while they change
@@ -35,11 +36,22 @@ DueLimit dueLimit(const QString& name) {
   return lockedDueLimit(name);
 }
 
-BatchLedger storedLedger(const QString& name, const QString& inputFolderPath) {
-  BatchLedger ledger;
+/// A null string if nothing is stored.
+static QString storedText(const QString& name, const QString& inputFolderPath) {
   const QString key = ledgerKey(name, inputFolderPath);
-  if (VantryUtil::prefs && VantryUtil::prefs->HasKey(key)) ledger.fromText(VantryUtil::prefs->StringValue(key));
+  if (!VantryUtil::prefs || !VantryUtil::prefs->HasKey(key)) return {};
+  const QString text = VantryUtil::prefs->StringValue(key);
+  return text.isNull() ? u""_s : text;
+}
+
+static BatchLedger ledgerFrom(const QString& text) {
+  BatchLedger ledger;
+  if (!text.isNull()) ledger.fromText(text);
   return ledger;
+}
+
+BatchLedger storedLedger(const QString& name, const QString& inputFolderPath) {
+  return ledgerFrom(storedText(name, inputFolderPath));
 }
 
 void UploaderTask::getDateLimit() {
@@ -90,16 +102,29 @@ UploaderTask::FolderLook UploaderTask::lookAtInputFolder() {
   const std::lock_guard lock(m_ledgerMutex);
   if (m_ledgerClearings != *m_clearings) m_ledger = {};
   m_ledgerClearings = *m_clearings;
+  takeOverStored(dateLimit);
   look.files = readLedger().look(listing.files, dateLimit, look.began, clock.monotonicMs());
+  if (look.files.due.empty() && look.files.waiting.empty()) Problems::clear(Problem::Kind::FileWaits, Name);
   return look;
 }
 
 qint64 UploaderTask::getFileCount() { return static_cast<qint64>(lookAtInputFolder().files.due.size()); }
 
 BatchLedger& UploaderTask::readLedger() {
-  if (!m_ledgerRead) m_ledger = storedLedger(Name, inputFolderPath);
+  if (!m_ledgerRead) {
+    m_ledgerText = storedText(Name, inputFolderPath);
+    m_ledger = ledgerFrom(m_ledgerText);
+  }
   m_ledgerRead = true;
   return m_ledger;
+}
+
+void UploaderTask::takeOverStored(double limit) {
+  BatchLedger& ledger = readLedger();
+  const QString stored = storedText(Name, inputFolderPath);
+  if (stored == m_ledgerText) return;
+  m_ledgerText = stored;
+  if (!stored.isNull()) ledger.takeOver(stored, limit);
 }
 
 void UploaderTask::dealtWith(const ScannedFile& scanned) {
@@ -153,7 +178,9 @@ void UploaderTask::storeLedger(std::optional<double> limit) {
     const bool cleared = m_clearings && stored.clearings != *m_clearings;
     if (cleared || stored.seconds < dateLimit) return;  // all is due again
     if (limit) VantryUtil::prefs->setDoubleValue(limitKey(Name), *limit);
-    VantryUtil::prefs->setStringValue(ledgerKey(Name, inputFolderPath), readLedger().toText());
+    takeOverStored(limit.value_or(dateLimit));
+    m_ledgerText = readLedger().toText();
+    VantryUtil::prefs->setStringValue(ledgerKey(Name, inputFolderPath), m_ledgerText);
   }
   savePreferences();
 }

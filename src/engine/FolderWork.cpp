@@ -103,7 +103,7 @@ void FolderWork::beginRun() {
   crew().lostTime = false;
 }
 
-bool FolderWork::run(const TaskPointer& task, std::function<void()> work) {
+bool FolderWork::run(const TaskPointer& task, Kind kind, std::function<void()> work) {
   Crew& c = crew();
   const auto job = std::make_shared<Job>();
   job->task = task;
@@ -115,7 +115,8 @@ bool FolderWork::run(const TaskPointer& task, std::function<void()> work) {
     ++c.threads;
   }
   c.changed.notify_all();
-  const qint64 limit = c.lostTime ? std::min(c.limitMs, LaterLimitMs) : c.limitMs;
+  // A disk in order may take longer than that for a flush.
+  const qint64 limit = c.lostTime && kind == Kind::Look ? std::min(c.limitMs, LaterLimitMs) : c.limitMs;
   while (!c.changed.wait_for(lock, 100ms, [&] { return job->ended; })) {
     if (heldUpMs(*task) < limit) continue;
     job->leftBehind = true;

@@ -12,9 +12,12 @@ namespace FolderWork {
 /// Forgets how long earlier work of the run was waited for.
 void beginRun();
 
+enum class Kind { Look, Batch };
+
 /// Runs `work` and waits for it; throws what it threw. False when it was left behind: calls of its were held up for
-/// 20 s, or for 1 s once another's have been in the same run. It must own what it refers to. Upload thread.
-[[nodiscard]] bool run(const TaskPointer& task, std::function<void()> work);
+/// 20 s, or those of a look for 1 s once another's have been in the same run. It must own what it refers to. Upload
+/// thread.
+[[nodiscard]] bool run(const TaskPointer& task, Kind kind, std::function<void()> work);
 
 /// In place of the 20 s. Any thread.
 void setLimit(int milliseconds);

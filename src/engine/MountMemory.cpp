@@ -1,8 +1,11 @@
 #include "engine/MountMemory.h"
 
+#include <QHash>
 #include <mutex>
 
 #include "engine/UploaderTask.h"
+#include "platform/Clock.h"
+#include "platform/Mount.h"
 #include "storage/Preferences.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -30,6 +33,19 @@ void setMountTable(std::function<MountTable()> source) {
   tableSource = std::move(source);
 }
 
+/// True at most once in 30 s for a path: of five failed mounts in 10 s systemd makes an end of the automounting.
+static bool mayWake(const QByteArray& path) {
+  constexpr qint64 pauseMs = 30'000;
+  static std::mutex mutex;  // guards the one below
+  static QHash<QByteArray, qint64> lastMs;
+  const std::lock_guard lock(mutex);
+  const qint64 now = Clock::system().monotonicMs();
+  const auto last = lastMs.constFind(path);
+  if (last != lastMs.cend() && now - *last < pauseMs) return false;
+  lastMs.insert(path, now);
+  return true;
+}
+
 QString missingMountPoint(const FolderItem& folder, QByteArray& withoutLinks) {
   const auto path = folder.WithoutLinks();
   if (!path) return {};
@@ -37,7 +53,11 @@ QString missingMountPoint(const FolderItem& folder, QByteArray& withoutLinks) {
   const auto& prefs = VantryUtil::prefs;
   const QString key = keyOf(folder.NativePath());
   const QByteArray remembered = prefs ? prefs->StringValue(key).toUtf8() : QByteArray();
-  const MountTable table = mountTableNow();
+  MountTable table = mountTableNow();
+  if (table.entryOf(*path).type == "autofs" && mayWake(*path)) {
+    wakeAutomount(*path);
+    table = mountTableNow();
+  }
   const QByteArray missing = table.missingFor(*path, remembered);
   if (!missing.isEmpty()) return QString::fromUtf8(missing);
 

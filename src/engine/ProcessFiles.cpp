@@ -35,10 +35,11 @@ class BusyFlag {
   UploaderTask& m_task;
 };
 
-/// A failure of the disk or the share and not of the file, which therefore waits for a later look.
+/// A failure of the disk, the share or the machine and not of the file, which therefore waits for a later look. EAGAIN
+/// is that of a file which another process holds a lease on, as a file server does for its clients.
 bool mayPass(int error) {
-  constexpr int known[] = {EIO,       ENOTCONN,     ESTALE,      ETIMEDOUT,    EHOSTDOWN,
-                           EREMOTEIO, EHOSTUNREACH, ENETUNREACH, ECONNABORTED, ECONNRESET};
+  constexpr int known[] = {EIO,          ENOTCONN,   ESTALE, ETIMEDOUT, EHOSTDOWN, EREMOTEIO, EHOSTUNREACH, ENETUNREACH,
+                           ECONNABORTED, ECONNRESET, EAGAIN, EBUSY,     ETXTBSY,   EMFILE,    ENFILE,       ENOMEM};
   return std::find(std::begin(known), std::end(known), error) != std::end(known);
 }
 
@@ -167,7 +168,7 @@ Batch::Sent Batch::send(SentFile& file, bool anotherFollows) {
   if (!reply && watch.failure.phase == HttpFailure::Phase::Source) {
     if (!m_task.inputIsThere()) return Sent::FolderLost;
     if (mayPass(watch.failure.code)) {
-      Problems::raise(Problem::Kind::UploadFailed, m_task.Name, file.file.Name() + u": "_s + watch.failure.detail);
+      Problems::raise(Problem::Kind::FileWaits, m_task.Name, file.file.Name() + u": "_s + watch.failure.detail);
       return Sent::Moving;
     }
   }

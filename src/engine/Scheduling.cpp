@@ -3,6 +3,7 @@
 #include <atomic>
 #include <exception>
 #include <mutex>
+#include <utility>
 
 #include "engine/FolderWork.h"
 #include "engine/MountMemory.h"
@@ -115,10 +116,11 @@ UploaderTask::StatusValue UploaderTask::lookAtFolders() {
   QString bare;
   QByteArray input, output;
   const auto usable = [&bare](const std::optional<FolderItem>& folder, QByteArray& path) {
-    if (!folder || !folder->Directory() || !folder->IsWriteable()) return false;
+    if (!folder || !folder->Directory()) return false;
+    // Comes first: an automounter's trap may be writable by nobody, and is gone once the share is there.
     const QString missing = missingMountPoint(*folder, path);
     if (!missing.isEmpty()) bare = missing;
-    return missing.isEmpty();
+    return missing.isEmpty() && folder->IsWriteable();
   };
   const bool ready = usable(inputFolder, input) && (outputFolderPath.isEmpty() || usable(outputFolder, output));
   if (bare.isEmpty())
@@ -145,6 +147,17 @@ bool UploaderTask::inputIsThere() const { return isThere(inputFolder, m_inputDev
 
 bool UploaderTask::outputIsThere() const { return outputFolderPath.isEmpty() || isThere(outputFolder, m_outputDevice); }
 
+bool UploaderTask::lookAt(const TaskPointer& task, std::function<void()> look) {
+  try {
+    if (FolderWork::run(task, FolderWork::Kind::Look, std::move(look))) return true;
+  } catch (const std::exception& e) {
+    const QString reason = QString::fromUtf8(e.what());
+    if (std::exchange(task->m_lookFailure, reason) != reason) UploadThread::recordFailure(task, reason);
+  }
+  task->Status = Fault;
+  return false;
+}
+
 void UploaderTask::updateAllStatus() {
   for (TaskPointer task : allTasks()) {
     if (UploadThread::stopping()) return;
@@ -154,8 +167,7 @@ void UploaderTask::updateAllStatus() {
       continue;
     }
     const auto status = std::make_shared<StatusValue>(Fault);
-    const bool answered = FolderWork::run(task, [task, status] { *status = task->lookAtFolders(); });
-    task->Status = answered ? *status : Fault;
+    if (lookAt(task, [task, status] { *status = task->lookAtFolders(); })) task->Status = *status;
   }
 }
 
@@ -164,10 +176,9 @@ TaskPointer UploaderTask::getNextTaskWithFiles() {
     if (UploadThread::stopping()) return nullptr;
     if (task->Status == Fault || task->Busy || task->disabled || task->leftBehind) continue;
     const auto count = std::make_shared<qint64>(0);
-    if (!FolderWork::run(task, [task, count] { *count = task->getFileCount(); }))
-      task->Status = Fault;
-    else if (*count > 0)
-      return task;
+    if (!lookAt(task, [task, count] { *count = task->getFileCount(); })) continue;
+    if (!std::exchange(task->m_lookFailure, {}).isEmpty()) Problems::clear(Problem::Kind::RunFailed, task->Name);
+    if (*count > 0) return task;
   }
   return nullptr;
 }

@@ -39,7 +39,8 @@ void clearProblemsOf(const UploaderTask& task) {
   for (const auto kind :
        {Problem::Kind::ExclusionInvalid, Problem::Kind::ExclusionTooCostly, Problem::Kind::InputFolderUnreadable,
         Problem::Kind::FolderSilent, Problem::Kind::NothingMounted, Problem::Kind::CopyFailed,
-        Problem::Kind::DeleteFailed, Problem::Kind::UploadFailed, Problem::Kind::RunFailed})
+         Problem::Kind::DeleteFailed, Problem::Kind::UploadFailed, Problem::Kind::FileWaits,
+         Problem::Kind::RunFailed})
     Problems::clear(kind, task.Name);
   const QList<TaskPointer> listed = UploaderTask::allTasks();
   for (const QString& url : {task.inputfolderURL, task.outputFolderUrl}) {
@@ -99,7 +100,9 @@ void UploaderTask::Load() {
   const QLatin1String ending(AppFileTypes::VantryTask.extension);
   QList<TaskPointer> loaded;
   for (const FolderItem& item : directory.Items()) {
-    if (!item.Visible() || item.Directory() || !item.Name().endsWith(ending, Qt::CaseInsensitive)) continue;
+    // What other systems keep beside a file, under its name with these in front, is no task.
+    if (item.nameBytes().startsWith("._")) continue;
+    if (item.Directory() || !item.Name().endsWith(ending, Qt::CaseInsensitive)) continue;
     auto task = std::make_shared<UploaderTask>();
     const IoResult read = task->open(item);
     if (read.ok())
@@ -212,7 +215,7 @@ void UploaderTask::DistinctName(FolderItem& item) {
 
 FolderItem UploaderTask::newTaskFile(const FolderItem& folder, const QString& name) {
   QString stem = cutToBytes(name, longestFileName - 40);
-  if (stem.startsWith(u'.')) stem[0] = u'_';  // a hidden file would not be loaded again
+  if (stem.startsWith(u'.')) stem[0] = u'_';  // a file that file managers hide is easily left out of a backup
   const QString seconds = QString::number(static_cast<qint64>(Date().TotalSeconds()));
   FolderItem item = folder.Child(stem + u' ' + seconds + u".VNT"_s);
   DistinctName(item);

@@ -57,23 +57,6 @@ Worker& worker() {
   return *instance;
 }
 
-void recordFailure(const TaskPointer& task, const QString& reason) {
-  System::DebugLog(u"Vantry Uploader - a run stopped: "_s + reason);
-  Problems::raise(Problem::Kind::RunFailed, task ? task->Name : QString(), reason);
-  VantryUtil::LogEntry entry;
-  if (task) {
-    entry.setValue(u"InputFolder"_s, task->inputFolderPath);
-    if (!task->outputFolderPath.isEmpty()) entry.setValue(u"OutputFolder"_s, task->outputFolderPath);
-    entry.setValue(u"Track"_s, task->Track);
-  }
-  entry.setValue(u"Notes"_s, fillPlaceholders(VTULocalization::klRunFailedNote(), {reason}));
-  try {
-    entry.WriteToLog();
-  } catch (const std::exception&) {
-    // The problem raised above tells it all the same.
-  }
-}
-
 /// Processes tasks until none has work. `task` is the one under way, for whoever catches an exception.
 void processTasks(TaskPointer& task) {
   FolderWork::beginRun();
@@ -85,7 +68,7 @@ void processTasks(TaskPointer& task) {
     task = UploaderTask::getNextTaskWithFiles();
     if (!task || !UploadThread::Enabled) return;
     const auto prepared = std::make_shared<bool>(false);
-    const bool answered = FolderWork::run(task, [task, prepared, loginNumber] {
+    const bool answered = FolderWork::run(task, FolderWork::Kind::Batch, [task, prepared, loginNumber] {
       *prepared = task->PrepareToUpload();
       if (!*prepared) return;
       task->Status = UploaderTask::Processing;
@@ -108,6 +91,23 @@ void processTasks(TaskPointer& task) {
 }
 
 }  // namespace
+
+void UploadThread::recordFailure(const TaskPointer& task, const QString& reason) {
+  System::DebugLog(u"Vantry Uploader - a run stopped: "_s + reason);
+  Problems::raise(Problem::Kind::RunFailed, task ? task->Name : QString(), reason);
+  VantryUtil::LogEntry entry;
+  if (task) {
+    entry.setValue(u"InputFolder"_s, task->inputFolderPath);
+    if (!task->outputFolderPath.isEmpty()) entry.setValue(u"OutputFolder"_s, task->outputFolderPath);
+    entry.setValue(u"Track"_s, task->Track);
+  }
+  entry.setValue(u"Notes"_s, fillPlaceholders(VTULocalization::klRunFailedNote(), {reason}));
+  try {
+    entry.WriteToLog();
+  } catch (const std::exception&) {
+    // The problem raised above tells it all the same.
+  }
+}
 
 void UploadThread::Event_Run() {
   Worker& w = worker();

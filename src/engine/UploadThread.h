@@ -5,6 +5,7 @@
 #include <atomic>
 
 #include "engine/EngineActivity.h"
+#include "engine/UploaderTask.h"
 
 class UploadThread {
  public:
@@ -22,6 +23,8 @@ class UploadThread {
   static bool stop(int timeoutMs);
   /// Lets Start() work again after stop(), as in a new process; for tests.
   static void allowAgain();
+  /// States that the task was stopped by a fault, in a log row and for the main window. Any thread.
+  static void recordFailure(const TaskPointer& task, const QString& reason);
 
  private:
   static void Event_Run();

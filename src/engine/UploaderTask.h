@@ -173,6 +173,10 @@ class UploaderTask {
   double dateLimit = 0;  ///< seconds since 1970 UTC; 0: every file is new enough
 
  private:
+  /// Has `look` done at the task's folders. False, and status 3, if it hangs or throws; what it throws is recorded
+  /// once, until a look at the input folder is good or it throws something else.
+  [[nodiscard]] static bool lookAt(const TaskPointer& task, std::function<void()> look);
+  QString m_lookFailure;  ///< of the upload thread; as recorded last
   void buildExclusionRegEx();
   void copySettings(const UploaderTask& other);
   void noteMounts();
@@ -181,10 +185,13 @@ class UploaderTask {
   std::optional<RegEx> exclusionRegEx;
   [[nodiscard]] FolderScanResult listInputFolder(double above);
   BatchLedger& readLedger();
+  /// Adds what another task of this name and folder has stored since this one last read or stored.
+  void takeOverStored(double limit);
   void storeLedger(std::optional<double> limit);
-  mutable std::mutex m_ledgerMutex;  // guards the four below
+  mutable std::mutex m_ledgerMutex;  // guards the five below
   TaskPointer m_heir;                // written under m_mountMutex as well, so that either guards a reading
   BatchLedger m_ledger;
+  QString m_ledgerText;  // as last read or stored
   bool m_ledgerRead = false;
   quint64 m_ledgerClearings = 0;         // of the limit, when the ledger was last asked
   std::optional<quint64> m_clearings;    // of the limit, once dateLimit was read

@@ -34,6 +34,7 @@ static Rank rankOf(Problem::Kind kind) {
     case Problem::Kind::FolderSilent:
     case Problem::Kind::NothingMounted:
     case Problem::Kind::ShareNotMounted:
+    case Problem::Kind::FileWaits:
       return Rank::OneTaskHindered;
     case Problem::Kind::PreferencesSetAside:
     case Problem::Kind::LogSetAside:

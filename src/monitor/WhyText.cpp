@@ -133,6 +133,7 @@ bool concerns(const Problem& problem, const UploaderTask& task) {
     case Problem::Kind::CopyFailed:
     case Problem::Kind::DeleteFailed:
     case Problem::Kind::UploadFailed:
+    case Problem::Kind::FileWaits:
     case Problem::Kind::RunFailed:
     case Problem::Kind::InputFolderUnreadable:
     case Problem::Kind::FolderSilent:

@@ -4,6 +4,7 @@
 #include "platform/Mount.h"
 
 #include <dirent.h>
+#include <fcntl.h>
 #include <netdb.h>
 #include <unistd.h>
 
@@ -16,6 +17,7 @@
 #include <thread>
 
 #include "platform/FileCipher.h"
+#include "platform/FolderCall.h"
 #include "platform/System.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -310,6 +312,12 @@ bool start(const MountingPointer& mounting) {
 static bool maybeServer(QStringView text) {
   const qsizetype colon = text.indexOf(u':', text.startsWith(u'[') ? qMax(text.indexOf(u']'), qsizetype(0)) : 0);
   return colon < 0 || text.mid(colon + 1).toUShort() > 0;
+}
+
+void wakeAutomount(const QByteArray& path) {
+  const FolderCall call;
+  const int folder = ::open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (folder >= 0) ::close(folder);
 }
 
 QString shareForDisplay(const QString& url) {

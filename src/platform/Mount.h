@@ -1,6 +1,7 @@
 #pragma once
 // Mounts a share for the program's user, through the desktop's mount service (GIO/GVfs), which shows it as a folder.
 
+#include <QByteArray>
 #include <QString>
 #include <cerrno>
 #include <functional>
@@ -32,6 +33,10 @@ constexpr int NoFolder = ENODEV;               ///< mounted, but not shown as a 
 
 /// The address as it may be shown and logged: without what stands before an @ of its server.
 [[nodiscard]] QString shareForDisplay(const QString& url);
+
+/// Has the automounter mount what belongs at the folder `path`, by opening it: a look at the metadata of a mount point
+/// does not. Blocks for the mount; what it came to shows in the mount table. Any thread.
+void wakeAutomount(const QByteArray& path);
 
 /// Mounts a share without asking anybody and gives its folder as a local path, or the empty string and an errno (see
 /// MountError). A share that is mounted already is a success. Blocks for `limitMs` at most and 5 s more for the service

@@ -24,6 +24,7 @@ struct Problem {
     CopyFailed,             ///< subject: task; detail: file and why
     DeleteFailed,           ///< subject: task; detail: file and why
     UploadFailed,           ///< subject: task; detail: file and why
+    FileWaits,              ///< subject: task; detail: file and why it can't be read for now
     RunFailed,              ///< subject: task; detail: the exception's words
     ServiceUnreachable,     ///< detail: from whom no answer came
     ServiceRefuses,         ///< detail: the service's words

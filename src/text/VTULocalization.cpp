@@ -94,6 +94,8 @@ static QString textOf(Problem::Kind kind) {
       return klStripDeleteFailed();
     case Problem::Kind::UploadFailed:
       return klStripUploadFailed();
+    case Problem::Kind::FileWaits:
+      return klStripFileWaits();
     case Problem::Kind::RunFailed:
       return klStripRunFailed();
     case Problem::Kind::ServiceUnreachable:

@@ -1,8 +1,10 @@
 // One batch, end to end: what the service received, what lies on the disk, what the log says.
 
+#include <fcntl.h>
 #include <sys/stat.h>
 
 #include <QDir>
+#include <csignal>
 
 #include "engine/UploadThread.h"
 #include "platform/Problems.h"
@@ -401,6 +403,53 @@ class tst_Pipeline : public QObject {
       QCOMPARE(bench.received().size(), already == 0 ? 2 : 5);
       bench.clock.advance(100);
     }
+  }
+
+  void aFileThatAnotherProgramHoldsALeaseOnWaits() {
+    EngineBench bench;
+    const QByteArray held = QFile::encodeName(bench.drop(u"a.txt"_s));
+    bench.drop(u"b.txt"_s);
+    const TaskPointer task = bench.makeTask();
+    const auto before = std::signal(SIGIO, SIG_IGN);  // tells the holder that somebody waits
+    const int holder = ::open(held.constData(), O_RDONLY | O_CLOEXEC);
+    QCOMPARE(::fcntl(holder, F_SETLEASE, F_WRLCK), 0);
+    EngineBench::process(*task);
+    QCOMPARE(bench.received(), QStringList{u"b.txt"_s});
+    QCOMPARE(bench.log().size(), 1);
+    QCOMPARE(Problems::present().value(0).kind, Problem::Kind::FileWaits);
+    ::close(holder);
+    std::signal(SIGIO, before);
+    bench.clock.advance(4);
+    EngineBench::process(*task);
+    QCOMPARE(bench.received(), (QStringList{u"b.txt"_s, u"a.txt"_s}));
+    QVERIFY(Problems::present().isEmpty());
+  }
+
+  void tasksOfOneNameAndFolderSendAFileOnce() {
+    EngineBench bench;
+    const TaskPointer first = bench.makeTask(), second = bench.makeTask();
+    const auto pass = [&](const TaskPointer& a, const TaskPointer& b) {
+      for (const TaskPointer& task : {a, b}) EngineBench::process(*task);
+    };
+    pass(first, second);
+    bench.clock.advance(100);
+    bench.drop(u"a.txt"_s);
+    pass(first, second);
+    QCOMPARE(bench.received(), QStringList{u"a.txt"_s});
+    bench.clock.advance(100);
+    bench.drop(u"b.txt"_s);
+    pass(second, first);
+    // Nor does one forget what the other has stored when ours was set back.
+    bench.clock.jump(-300);
+    bench.drop(u"c.txt"_s);
+    for (int i = 0; i < 2; ++i) bench.clock.advance(4), pass(first, second);
+    bench.restart();
+    pass(bench.makeTask(), bench.makeTask());
+    QCOMPARE(bench.received(), (QStringList{u"a.txt"_s, u"b.txt"_s, u"c.txt"_s}));
+    bench.clock.advance(1000);
+    first->updateDateLimit(true);
+    pass(second, first);
+    QCOMPARE(bench.received().size(), 6);
   }
 
   void clearingTheLimitSendsTheFolderAgain() {

@@ -1,8 +1,11 @@
 // Which task runs, when a run ends, and what state the tasks are in.
 
 #include <QDir>
+#include <QTest>
+#include <atomic>
 #include <stdexcept>
 
+#include "engine/EngineClock.h"
 #include "engine/UploadThread.h"
 #include "platform/Problems.h"
 #include "storage/LogEntry.h"
@@ -87,6 +90,37 @@ class tst_Scheduling : public QObject {
     UploadThread::Start();
     QTRY_COMPARE(bench.notes().last(), u"Uploaded to Print Warden - Saved"_s);
     QTRY_VERIFY(Problems::present().isEmpty());
+  }
+
+  void anExceptionOfALookConcernsItsTaskAloneAndIsRecordedOnce() {
+    struct ThrowingClock : ManualClock {
+      using ManualClock::ManualClock;
+      mutable std::atomic<bool> throws{false};
+      Date now() const override {
+        if (throws.exchange(false)) throw std::runtime_error("planted");
+        return ManualClock::now();
+      }
+    };
+    EngineBench bench;
+    ThrowingClock clock(bench.clock.now().TotalSeconds());
+    setEngineClock(&clock);
+    const TaskPointer a = addTask(bench, u"a"_s, 1);
+    addTask(bench, u"b"_s, 1);
+    for (int i = 0; i < 2; ++i) {
+      clock.throws = true;
+      UploadThread::Start();
+      QTRY_VERIFY(!clock.throws && !UploadThread::ProcessingNow());
+      QCOMPARE(bench.received(), QStringList{u"b1.txt"_s});
+      QCOMPARE(a->Status.load(), UploaderTask::Fault);
+    }
+    const QStringList notes{u"Processing stopped: planted"_s, u"Uploaded to Print Warden - Saved"_s};
+    QCOMPARE(bench.notes(), notes);
+    QCOMPARE(bench.log()[0][u"InputFolder"_s], a->inputFolderPath);
+    UploadThread::Start();
+    QTRY_COMPARE(bench.received(), (QStringList{u"b1.txt"_s, u"a1.txt"_s}));
+    QTRY_VERIFY(!UploadThread::ProcessingNow());
+    QVERIFY(Problems::present().isEmpty());
+    setEngineClock(&bench.clock);
   }
 
   void mounting_data() {

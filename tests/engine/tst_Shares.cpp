@@ -156,6 +156,34 @@ class tst_Shares : public QObject {
     QVERIFY(!engineActivity().sending);
   }
 
+  void aBatchIsGivenItsFullTimeWhereAnotherTaskHangs() {
+    EngineBench bench;
+    listed(bench, u"a"_s, u"hanging-share/a"_s);
+    const TaskPointer b = bench.makeTask(u"b"_s);
+    b->inputFolderPath = bench.home.path(u"none"_s);
+    b->AutoMountInputFolder = true;
+    b->inputfolderURL = u"smb://server/share"_s;
+    UploaderTask::addTask(b);
+    const TaskPointer c = listed(bench, u"c"_s, u"hanging-share/c"_s);
+    bench.drop(u"c2.txt"_s, "x", u"hanging-share/c"_s);
+    std::optional<HangingShare> hangs(std::in_place);
+    // Its turn is behind the first task, which has been left to itself by then.
+    UploaderTask::setMountOperation([&](const MountRequest&, int&) {
+      hangs.reset();
+      FolderWork::setLimit(20'000);
+      return QString();
+    });
+    bench.service.hold();
+    UploadThread::Start();
+    QVERIFY(bench.service.waitForHeld(1, 20'000));
+    hangs.emplace();
+    bench.service.release();
+    QTRY_VERIFY(c->leftBehind || c->folderCalls.heldUpMs() > 2000);
+    hangs.reset();
+    QTRY_VERIFY(!UploadThread::ProcessingNow());
+    QCOMPARE(bench.received(), (QStringList{u"c1.txt"_s, u"c2.txt"_s}));
+  }
+
   void aFolderThatGoesInMidBatchCostsNoFileAndHoldsUpNobody_data() {
     QTest::addColumn<QString>("folder");
     QTest::newRow("input") << u"in"_s;

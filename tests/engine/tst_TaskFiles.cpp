@@ -107,6 +107,8 @@ class tst_TaskFiles : public QObject {
     stored(u"alpha"_s, u"3.vnt"_s);
     stored(u"removed"_s, u"4.del"_s);
     stored(u"other"_s, u"5.txt"_s);
+    stored(u"dotted"_s, u".6.vnt"_s);
+    stored(u"of another system"_s, u"._1.vnt"_s);
     m_home->makeFolder(u"data/vantry-uploader/Uploader Tasks/folder.vnt"_s);
     const QByteArray good = TemporaryHome::readFile(taskFile(u"1.vnt"_s));
     const QString inHome = u"data/vantry-uploader/Uploader Tasks/"_s;
@@ -118,11 +120,11 @@ class tst_TaskFiles : public QObject {
     DictionaryFile::setSolutionKey(u"KestrelMoonOVJT"_s);
 
     UploaderTask::Load();
-    QCOMPARE(names(), (QStringList{u"Alpha"_s, u"alpha"_s, u"beta"_s}));
+    QCOMPARE(names(), (QStringList{u"Alpha"_s, u"alpha"_s, u"beta"_s, u"dotted"_s}));
     QCOMPARE(skipped(), (QStringList{u"cut.vnt"_s, u"empty.vnt"_s, u"foreign.vnt"_s, u"plain.vnt"_s}));
-    QCOMPARE(files().size(), 9);
+    QCOMPARE(files().size(), 11);
     UploaderTask::Load();
-    QCOMPARE(names().size(), 3);
+    QCOMPARE(names().size(), 4);
   }
 
   void aTaskFolderThatIsAFileIsSaid() {
