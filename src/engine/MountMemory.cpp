@@ -93,5 +93,5 @@ void UploaderTask::noteMounts() {
 bool UploaderTask::mountedAnew() const {
   const QByteArray mounts = mountsOfFolders();
   const std::lock_guard lock(m_mountMutex);
-  return mounts != m_mounts;
+  return !m_mounts.isEmpty() && mounts != m_mounts;  // none before the first look
 }

@@ -39,8 +39,7 @@ void clearProblemsOf(const UploaderTask& task) {
   for (const auto kind :
        {Problem::Kind::ExclusionInvalid, Problem::Kind::ExclusionTooCostly, Problem::Kind::InputFolderUnreadable,
         Problem::Kind::FolderSilent, Problem::Kind::NothingMounted, Problem::Kind::CopyFailed,
-         Problem::Kind::DeleteFailed, Problem::Kind::UploadFailed, Problem::Kind::FileWaits,
-         Problem::Kind::RunFailed})
+        Problem::Kind::DeleteFailed, Problem::Kind::UploadFailed, Problem::Kind::FileWaits, Problem::Kind::RunFailed})
     Problems::clear(kind, task.Name);
   const QList<TaskPointer> listed = UploaderTask::allTasks();
   for (const QString& url : {task.inputfolderURL, task.outputFolderUrl}) {

@@ -166,6 +166,7 @@ class tst_TaskFiles : public QObject {
     QVERIFY(UploaderTask::duplicateTask(UploaderTask::getTaskWIthName(u" PRESS/1 copy "_s)));
     QCOMPARE(names(), (QStringList{u"Press/1"_s, u"Press/1 Copy"_s, u"Press/1 Copy Copy"_s}));
     QVERIFY(UploaderTask::allTasks().at(1)->disabled);
+    UploaderTask::unload();
     UploaderTask::Load();
     QVERIFY(names().size() == 3 && !UploaderTask::allTasks().at(1)->disabled);
   }

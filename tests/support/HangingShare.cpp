@@ -123,7 +123,8 @@ extern "C" int statx(int folder, const char* path, int flags, unsigned int mask,
 }
 
 extern "C" DIR* opendir(const char* path) {
-  const int folder = openFile(path, O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0);
+  pass(path, HangingShare::Calls::All);
+  const int folder = ::openat(AT_FDCWD, path, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   return folder < 0 ? nullptr : ::fdopendir(folder);
 }
 
