@@ -58,8 +58,10 @@ static QStringList namesOf(const QList<FolderItem>& files) {
 
 QList<FolderItem> taskFilesIn(const FolderItem& folder) {
   QList<FolderItem> files;
-  for (const FolderItem& item : folder.Items())
+  for (const FolderItem& item : folder.Items()) {
+    if (item.nameBytes().startsWith("._")) continue;  // other systems' own, beside a file of that name
     if (item.nameBytes().toLower().endsWith(".vnt") && !item.Directory()) files << item;
+  }
   return files;
 }
 

@@ -14,5 +14,9 @@ struct DueLimit {
 };
 [[nodiscard]] DueLimit dueLimit(const QString& name);
 
+/// Files dated later than this, in seconds since 1970 UTC, are looked at. After our clock was set back the limit lies
+/// ahead until the next batch, so it reaches down to the moment at which that was first seen.
+[[nodiscard]] double dueCutoff(const QString& name, const QString& inputFolderPath, double limit, const Date& now);
+
 /// The ledger of a task as a new start would read it.
 [[nodiscard]] BatchLedger storedLedger(const QString& name, const QString& inputFolderPath);

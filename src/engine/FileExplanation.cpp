@@ -47,7 +47,7 @@ FileExplanation explainFile(const UploaderTask& task, const FolderItem& file) {
   explanation.version = versionOf(file);
 
   std::vector<Verdict> against;
-  const double cutoff = BatchLedger::cutoff(explanation.dateLimit, engineClock().now());
+  const double cutoff = dueCutoff(task.Name, task.inputFolderPath, explanation.dateLimit, engineClock().now());
   const FolderScanResult found = task.dueRules().one(folder, explanation.name, cutoff, against);
   explanation.result = found.result;
   if (!found.result.ok()) return explanation;

@@ -1,6 +1,7 @@
 // What is due in a task's input folder, and what is remembered of it.
 
 #include <QHash>
+#include <algorithm>
 
 #include "engine/DueMemory.h"
 #include "engine/EngineClock.h"
@@ -17,6 +18,9 @@ static QString limitKey(const QString& name) { return name + u"lastprocessed"_s;
 // The ledger belongs to a folder as much as to a name: tasks of one name share their limit, and their files only where
 // they share the folder.
 static QString ledgerKey(const QString& name, const QString& folder) { return name + u"lastversions "_s + folder; }
+
+/// Since when the limit lies ahead of us, in seconds since 1970 UTC.
+static QString setBackKey(const QString& name, const QString& folder) { return name + u"clocksetback "_s + folder; }
 
 static std::mutex memoryMutex;  // guards the one below, and holds limit and ledger of prefs together while they change
 
@@ -54,6 +58,27 @@ BatchLedger storedLedger(const QString& name, const QString& inputFolderPath) {
   return ledgerFrom(storedText(name, inputFolderPath));
 }
 
+static void savePreferences() {
+  if (VantryUtil::prefs->save())
+    Problems::clear(Problem::Kind::PreferencesNotSaved, {});
+  else
+    Problems::raise(Problem::Kind::PreferencesNotSaved, {}, VantryUtil::prefs->lastFailure().message());
+}
+
+double dueCutoff(const QString& name, const QString& inputFolderPath, double limit, const Date& now) {
+  const double since = VantryUtil::prefs ? VantryUtil::prefs->DoubleValue(setBackKey(name, inputFolderPath)) : 0;
+  return BatchLedger::cutoff(since > 0 ? std::min(limit, since) : limit, now);
+}
+
+void UploaderTask::noteClockSetBack(const Date& now) const {
+  if (!VantryUtil::prefs || dateLimit <= now.TotalSeconds() + BatchLedger::WindowSeconds) return;
+  const QString key = setBackKey(Name, inputFolderPath);
+  const double since = VantryUtil::prefs->DoubleValue(key);
+  if (since > 0 && since <= now.TotalSeconds()) return;
+  VantryUtil::prefs->setDoubleValue(key, now.TotalSeconds());
+  savePreferences();
+}
+
 void UploaderTask::getDateLimit() {
   const DueLimit stored = dueLimit(Name);
   dateLimit = stored.seconds;
@@ -89,7 +114,8 @@ UploaderTask::FolderLook UploaderTask::lookAtInputFolder() {
     look.result = IoResult::failure(ENOENT, VTULocalization::klNoInputFolder());
     return look;
   }
-  FolderScanResult listing = listInputFolder(BatchLedger::cutoff(dateLimit, look.began));
+  noteClockSetBack(look.began);
+  FolderScanResult listing = listInputFolder(dueCutoff(Name, inputFolderPath, dateLimit, look.began));
   // The bare folder under a share that went away would pass for an empty one.
   if (listing.result.ok() && !inputIsThere()) listing.result = IoResult::failure(ENOTCONN, inputFolder->NativePath());
   look.result = listing.result;
@@ -100,11 +126,15 @@ UploaderTask::FolderLook UploaderTask::lookAtInputFolder() {
   }
   Problems::clear(Problem::Kind::InputFolderUnreadable, Name);
   const std::lock_guard lock(m_ledgerMutex);
-  if (m_ledgerClearings != *m_clearings) m_ledger = {};
+  // An empty memory, and not none: a limit that another folder's task has set since tells nothing of this one's files.
+  if (m_ledgerClearings != *m_clearings) m_ledger = ledgerFrom(u""_s);
   m_ledgerClearings = *m_clearings;
   takeOverStored(dateLimit);
   look.files = readLedger().look(listing.files, dateLimit, look.began, clock.monotonicMs());
-  if (look.files.due.empty() && look.files.waiting.empty()) Problems::clear(Problem::Kind::FileWaits, Name);
+  const auto stillWaits = [this](const ScannedFile& found) { return found.name == m_waitsFor; };
+  if (std::none_of(look.files.due.begin(), look.files.due.end(), stillWaits) &&
+      std::none_of(look.files.waiting.begin(), look.files.waiting.end(), stillWaits))
+    Problems::clear(Problem::Kind::FileWaits, Name);
   return look;
 }
 
@@ -142,6 +172,14 @@ void UploaderTask::foundMoving(const ScannedFile& scanned) {
   readLedger().foundMoving(scanned, engineClock().monotonicMs());
 }
 
+void UploaderTask::tellThatItWaits(const ScannedFile& scanned, const QString& reason) {
+  {
+    const std::lock_guard lock(m_ledgerMutex);
+    m_waitsFor = scanned.name;
+  }
+  Problems::raise(Problem::Kind::FileWaits, Name, QString::fromUtf8(scanned.name) + u": "_s + reason);
+}
+
 void UploaderTask::closeBatch(const Date& began) {
   double limit = 0;
   {
@@ -161,13 +199,6 @@ Verdict UploaderTask::judgeVersion(const ScannedFile& scanned, double limit) con
 
 void UploaderTask::keepLedger() { storeLedger(std::nullopt); }
 
-static void savePreferences() {
-  if (VantryUtil::prefs->save())
-    Problems::clear(Problem::Kind::PreferencesNotSaved, {});
-  else
-    Problems::raise(Problem::Kind::PreferencesNotSaved, {}, VantryUtil::prefs->lastFailure().message());
-}
-
 void UploaderTask::storeLedger(std::optional<double> limit) {
   if (!VantryUtil::prefs) return;
   {
@@ -177,7 +208,10 @@ void UploaderTask::storeLedger(std::optional<double> limit) {
     const DueLimit stored = lockedDueLimit(Name);
     const bool cleared = m_clearings && stored.clearings != *m_clearings;
     if (cleared || stored.seconds < dateLimit) return;  // all is due again
-    if (limit) VantryUtil::prefs->setDoubleValue(limitKey(Name), *limit);
+    // Another of this name may have moved it on while this one's work was left behind.
+    const double since = stored.seconds == dateLimit ? 0 : stored.seconds;
+    if (limit) VantryUtil::prefs->setDoubleValue(limitKey(Name), std::max(*limit, since));
+    if (limit) VantryUtil::prefs->Remove(setBackKey(Name, inputFolderPath));
     takeOverStored(limit.value_or(dateLimit));
     m_ledgerText = readLedger().toText();
     VantryUtil::prefs->setStringValue(ledgerKey(Name, inputFolderPath), m_ledgerText);

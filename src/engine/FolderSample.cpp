@@ -39,7 +39,8 @@ FolderSample sampleInputFolder(const SampleRequest& request, const std::function
   const Date began = clock.now();
   const double limit = storedDateLimit(request.taskName);
   const DueRules rules(request.extension, request.pattern, exclusionOf(request.exclusion));
-  const FolderScanResult listing = rules.list(request.folder, BatchLedger::cutoff(limit, began), stop, keptOut);
+  const double cutoff = dueCutoff(request.taskName, request.folder.NativePath(), limit, began);
+  const FolderScanResult listing = rules.list(request.folder, cutoff, stop, keptOut);
   sample.result = listing.result;
 
   const BatchLedger ledger = storedLedger(request.taskName, request.folder.NativePath());

@@ -82,7 +82,7 @@ void work() {
       const FolderWork::LateFailure tell = c.lateFailure;
       lock.unlock();
       tellLateFailure(job, tell);
-      Problems::clear(Problem::Kind::FolderSilent, job->task->Name);
+      UploaderTask::workEnded(job->task);
       job->task->leftBehind = false;
       lock.lock();
     }

@@ -1,6 +1,6 @@
 // One batch of one task: every due file is sent, copied, deleted if the task says so, and logged; then the date limit
-// moves. Files are sent on the upload thread; what follows is done in the same order on a thread beside it, so that the
-// next file is on its way while a copy and a row reach the disk.
+// moves. Files are sent on the thread of the task's work; what follows is done in the same order on a thread beside it,
+// so that the next file is on its way while a copy and a row reach the disk.
 
 #include <algorithm>
 #include <cerrno>
@@ -164,11 +164,13 @@ Batch::Sent Batch::send(SentFile& file, bool anotherFollows) {
 
   if (watch.otherLogin) return Sent::Stopped;
   if (!reply && (UploadThread::stopping() || watch.failure.phase == HttpFailure::Phase::Stopped)) return Sent::Stopped;
+  // The share held it up, and the service has not got it whole: it stays due.
+  if (!reply && m_task.leftBehind && watch.failure.requestCut) return Sent::Stopped;
   if (!reply && watch.fileChanged) return versionOf(file.file) ? Sent::Moving : missing(file.file);
   if (!reply && watch.failure.phase == HttpFailure::Phase::Source) {
     if (!m_task.inputIsThere()) return Sent::FolderLost;
     if (mayPass(watch.failure.code)) {
-      Problems::raise(Problem::Kind::FileWaits, m_task.Name, file.file.Name() + u": "_s + watch.failure.detail);
+      m_task.tellThatItWaits(file.scanned, watch.failure.detail);
       return Sent::Moving;
     }
   }

@@ -132,6 +132,7 @@ UploaderTask::StatusValue UploaderTask::lookAtFolders() {
     const std::lock_guard lock(m_mountMutex);
     m_inputPath = input, m_outputPath = output;
   }
+  noteMounts();  // what was mounted only now, and by these paths
   m_inputDevice = inputFolder->Device();
   m_outputDevice = outputFolder ? outputFolder->Device() : std::nullopt;
   return Ready;

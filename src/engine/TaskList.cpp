@@ -117,7 +117,15 @@ void UploaderTask::Load() {
     list.swap(earlier);
   }
   for (const TaskPointer& task : earlier)
-    if (!getTaskWIthName(task->Name)) clearProblemsOf(*task);
+    if (!getTaskWIthName(task->Name))
+      clearProblemsOf(*task);
+    else if (task->leftBehind)
+      Problems::clear(Problem::Kind::FolderSilent, task->Name);  // its successor raises its own
+}
+
+void UploaderTask::workEnded(const TaskPointer& task) {
+  if (allTasks().contains(task)) return Problems::clear(Problem::Kind::FolderSilent, task->Name);
+  if (!getTaskWIthName(task->Name)) clearProblemsOf(*task);
 }
 
 void UploaderTask::unload() {

@@ -82,6 +82,7 @@ void processTasks(TaskPointer& task) {
     }
     if (answered) {
       Problems::clear(Problem::Kind::RunFailed, task->Name);
+      UploaderTask::workEnded(task);
     } else {
       task->Status = UploaderTask::Fault;
       clearEngineActivity();

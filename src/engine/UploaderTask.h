@@ -1,7 +1,8 @@
 #pragma once
 // One watched input folder with its selection rules, its destination at the service and its output rules, and the
 // shared list of all of them. A task's settings never change once it is in allTasks, so both threads read them; what
-// changes while it runs is atomic; folder handles, date limit and error folder belong to the upload thread.
+// changes while it runs is atomic; folder handles, date limit and error folder belong to the upload thread and the
+// thread on which it has one task's work done.
 
 #include <QList>
 #include <QString>
@@ -72,6 +73,8 @@ class UploaderTask {
   // The memory of what was dealt with, guarded; changed by the threads that work at the folders.
   void dealtWith(const ScannedFile& scanned);
   void foundMoving(const ScannedFile& scanned);
+  /// Raises Problem::FileWaits for a file that can't be read for the moment, until it no longer waits.
+  void tellThatItWaits(const ScannedFile& scanned, const QString& reason);
   /// Ends a batch whose last good look began at `began`: stores the new date limit and the memory.
   void closeBatch(const Date& began);
   /// Ends a batch that was broken off: stores the memory beside the limit as it was.
@@ -128,6 +131,8 @@ class UploaderTask {
   /// Reads the task folder anew into the list. A file that can't be read raises Problem::TaskFileSkipped. A task of a
   /// file that was listed already stays switched off, and keeps its count.
   static void Load();
+  /// Takes back what was told of work that hung, and all that was told of a task that is no longer listed; any thread.
+  static void workEnded(const TaskPointer& task);
   static void unload();
   static void addTask(const TaskPointer& task);
   /// Takes the task off the list and marks its file; a task that isn't there changes nothing. A file that can't be
@@ -184,14 +189,17 @@ class UploaderTask {
   QString mExclusionPattern;
   std::optional<RegEx> exclusionRegEx;
   [[nodiscard]] FolderScanResult listInputFolder(double above);
+  /// Stores when it was first seen that the limit lies ahead of our clock.
+  void noteClockSetBack(const Date& now) const;
   BatchLedger& readLedger();
   /// Adds what another task of this name and folder has stored since this one last read or stored.
   void takeOverStored(double limit);
   void storeLedger(std::optional<double> limit);
-  mutable std::mutex m_ledgerMutex;  // guards the five below
+  mutable std::mutex m_ledgerMutex;  // guards the six below
   TaskPointer m_heir;                // written under m_mountMutex as well, so that either guards a reading
   BatchLedger m_ledger;
-  QString m_ledgerText;  // as last read or stored
+  QString m_ledgerText;   // as last read or stored
+  QByteArray m_waitsFor;  // the name told last
   bool m_ledgerRead = false;
   quint64 m_ledgerClearings = 0;         // of the limit, when the ledger was last asked
   std::optional<quint64> m_clearings;    // of the limit, once dateLimit was read

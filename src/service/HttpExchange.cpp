@@ -279,7 +279,9 @@ void HttpExchange::connectionEnded(Connection::Io how) {
 
 bool HttpExchange::nextPiece() {
   const qsizetype before = m_output.size();
+  const auto began = std::chrono::steady_clock::now();
   const bool read = m_request.content->read(m_output);
+  m_deadline += std::chrono::steady_clock::now() - began;  // the file's time and not the service's
   const qsizetype count = m_output.size() - before;
   m_contentLeft -= count;
   // A content that isn't as long as was announced must not be sent to its end: the server would take it as whole.

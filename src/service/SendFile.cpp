@@ -38,6 +38,7 @@ static void takeFileState(const FileSourceState& state, VantryUtil::SendFileWatc
   if (state.failure.ok()) return;
   const QString words = state.changed ? VTULocalization::klFileChanged() : state.failure.message();
   watch.failure = {HttpFailure::Phase::Source, state.failure.error, words};
+  watch.failure.requestCut = true;
 }
 
 std::optional<Dictionary> VantryUtil::SendFile(const QString& filename, const QString& workflowName,

@@ -463,6 +463,39 @@ class tst_Pipeline : public QObject {
       bench.clock.advance(4);
     }
   }
+
+  void clearingOneOfTwoTasksOfANameLosesNoFileOfTheOther() {
+    EngineBench bench;
+    const TaskPointer one = bench.makeTask(), other = bench.makeTask();
+    other->inputFolderPath = bench.home.makeFolder(u"second"_s);
+    bench.drop(u"a.txt"_s);
+    for (UploaderTask* const task : {one.get(), other.get()}) EngineBench::process(*task);
+    bench.clock.advance(100);
+    bench.drop(u"b.txt"_s, "b", u"second"_s);
+    one->updateDateLimit(true);
+    for (UploaderTask* const task : {one.get(), other.get(), other.get()}) {
+      EngineBench::process(*task);
+      bench.clock.advance(4);
+    }
+    QCOMPARE(bench.received(), (QStringList{u"a.txt"_s, u"a.txt"_s, u"b.txt"_s}));
+  }
+
+  void whatLandsWhileTheLimitLiesAheadIsSentAfterAnyPause() {
+    EngineBench bench;
+    bench.drop(u"a.txt"_s);
+    EngineBench::process(*bench.makeTask());
+    bench.clock.jump(-3600);
+    EngineBench::process(*bench.makeTask());
+    bench.drop(u"b.txt"_s);
+    bench.clock.advance(2000);
+    bench.restart();
+    const TaskPointer task = bench.makeTask();
+    for (int i = 0; i < 2; ++i) {
+      EngineBench::process(*task);
+      bench.clock.advance(4);
+    }
+    QCOMPARE(bench.received(), (QStringList{u"a.txt"_s, u"b.txt"_s}));
+  }
 };
 
 VANTRY_TEST(tst_Pipeline);

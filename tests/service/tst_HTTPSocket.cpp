@@ -1,4 +1,5 @@
 #include <QElapsedTimer>
+#include <QSemaphore>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <future>
@@ -32,6 +33,16 @@ class PiecewiseSource : public RequestSource {
   int m_left;
   qint64 m_size;
   int m_failsAt;
+};
+
+/// A file on a slow share.
+class SlowSource : public PiecewiseSource {
+ public:
+  using PiecewiseSource::PiecewiseSource;
+  [[nodiscard]] bool read(QByteArray& buffer) override {
+    (void)QSemaphore().tryAcquire(1, 2 * Short);
+    return PiecewiseSource::read(buffer);
+  }
 };
 
 /// Accepts nobody and has a full queue, so that connecting to it hangs.
@@ -154,6 +165,18 @@ class tst_HTTPSocket : public QObject {
       QVERIFY(socket.failure().phase == Phase::TimedOut && socket.failure().detail.contains("whole request"_L1));
       QVERIFY(timer.elapsed() < 4 * Short);
     }
+  }
+
+  void theTimeOfTheFileIsNotThatOfTheService() {
+    const ScriptedServer server([](const Peer& peer) {
+      peer.readHead();
+      (void)peer.read(1000);
+      peer.write("HTTP/1.0 200 OK\r\n\r\nyes");
+    });
+    HTTPSocket socket;
+    socket.SetRequestSource(std::make_unique<SlowSource>(1, 1000, -1), "text/plain");
+    QCOMPARE(socket.Post(server.url(), Short), "yes");
+    QVERIFY(!socket.failure().failed());
   }
 
   void aSuccessIsBelievedOnlyOfAServiceThatGotTheRequest() {
