@@ -68,6 +68,8 @@ GuardedFileDialog::GuardedFileDialog(QWidget* window, const QString& title, cons
     : QFileDialog(window, title, withoutMemory(directory)), m_question("chooser", this) {
   setOption(DontUseNativeDialog);  // the toolkit's own shows the prompt, and reads folders on a thread
   setViewMode(lastViewMode());
+  m_guarded = toolkitIsKnown();
+  if (!m_guarded) return;
   m_model = findChild<QFileSystemModel*>();
   m_name = findChild<QLineEdit*>(u"fileNameEdit"_s);
   m_line = new QLabel(this);
@@ -88,7 +90,23 @@ GuardedFileDialog::GuardedFileDialog(QWidget* window, const QString& title, cons
   handleEntered(m_model->rootPath());
 }
 
+bool GuardedFileDialog::toolkitIsKnown() const {
+  for (const char* const slot : {"_q_autoCompleteFileName(QString)", "_q_createDirectory()", "_q_deleteCurrent()",
+                                 "_q_selectionChanged()", "_q_showContextMenu(QPoint)", "_q_updateOkButton()"})
+    if (metaObject()->indexOfMethod(slot) < 0) return false;
+  for (const QString& name : {u"backButton"_s, u"forwardButton"_s, u"toParentButton"_s, u"newFolderButton"_s})
+    if (!findChild<QToolButton*>(name)) return false;
+  for (const QString& name : viewNames())
+    if (!findChild<QAbstractItemView*>(name)) return false;
+  const auto* const sidebar = findChild<QAbstractItemView*>(u"sidebar"_s);
+  const auto* const name = findChild<QLineEdit*>(u"fileNameEdit"_s);
+  return sidebar && sidebar->metaObject()->indexOfSignal("goToUrl(QUrl)") >= 0 && name && name->completer() &&
+         findChild<QComboBox*>(u"lookInCombo"_s) && findChild<QDialogButtonBox*>(u"buttonBox"_s) &&
+         findChild<QFileSystemModel*>();
+}
+
 void GuardedFileDialog::retire() {
+  if (!m_guarded) return hide(), deleteLater();
   static auto* const retired = new QSet<GuardedFileDialog*>;  // never destroyed: a thread may hang for ever
   lastViewMode() = viewMode();
   m_question.cancel();
@@ -98,7 +116,7 @@ void GuardedFileDialog::retire() {
   retired->insert(this);
   // The thread takes the folders in their order: when it comes to this one, it has left the others behind, and with
   // no view, completer or watcher there is nobody who asks for more.
-  delete m_completer;
+  m_completer->deleteLater();  // it may be calling: Return in its list of names chooses
   for (const QString& name : viewNames()) findChild<QAbstractItemView*>(name)->setModel(nullptr);
   m_model->setOption(QFileSystemModel::DontWatchForChanges);
   connect(m_model, &QFileSystemModel::directoryLoaded, this, [this](const QString& path) {
@@ -201,7 +219,9 @@ void GuardedFileDialog::enter(const QString& path) {
   ask(path, [=, this] {
     setDirectory(path);
     emit directoryEntered(path);
-    if (fileMode() == Directory) m_name->clear();
+    if (fileMode() != Directory) return;
+    m_name->clear();  // selects the folder that was entered, by which its name comes back
+    m_name->clear();
   });
 }
 
@@ -245,6 +265,8 @@ void GuardedFileDialog::handleText() {
   const bool share = leadsToShare(m_model->rootPath()) || leadsToShare(target());
   m_name->setCompleter(share ? nullptr : m_completer);
   if (!share) {
+    if (m_name->hasFocus())  // the toolkit keeps some that match no more, and chooses the first
+      findChild<QAbstractItemView*>(u"listView"_s)->clearSelection();
     QMetaObject::invokeMethod(this, "_q_autoCompleteFileName", Q_ARG(QString, m_name->text()));
     return callToolkit("_q_updateOkButton");
   }
@@ -262,7 +284,11 @@ QString GuardedFileDialog::target() const {
 }
 
 void GuardedFileDialog::accept() {
-  if (m_name->text() == u"..") return enterParent();
+  if (!m_guarded) return QFileDialog::accept();
+  if (m_name->text() == u"..") {
+    m_name->selectAll();
+    return enterParent();
+  }
   const QString path = target(), present = m_model->rootPath();
   ask(path, [=, this] {
     // The toolkit looks for what is typed in the present folder first, which may be the one that hangs.

@@ -19,7 +19,8 @@ class QLineEdit;
 class GuardedFileDialog : public QFileDialog {
   Q_OBJECT
  public:
-  /// Begins in `directory`, which must have answered just now if it lies on a share.
+  /// Begins in `directory`, which must have answered just now if it lies on a share. With a toolkit that is built
+  /// otherwise it is a plain dialog.
   GuardedFileDialog(QWidget* window, const QString& title, const QString& directory);
 
   /// Closes the dialog for good. It belongs to nobody then and is deleted once its thread, which may hang, is free.
@@ -32,6 +33,7 @@ class GuardedFileDialog : public QFileDialog {
   void goToUrl(const QUrl& url);
 
  private:
+  [[nodiscard]] bool toolkitIsKnown() const;
   void guardViews();
   void guardName();
   void guardPlaces();
@@ -58,6 +60,7 @@ class GuardedFileDialog : public QFileDialog {
   QLineEdit* m_name = nullptr;
   QCompleter* m_completer = nullptr;
   QLabel* m_line = nullptr;
+  bool m_guarded = false;
   QString m_silent;        // what the line is about
   QSet<QString> m_loaded;  // folders whose files have been listed
   QStringList m_visited;

@@ -25,6 +25,7 @@ class OpenChooser {
  public:
   explicit OpenChooser(PathChooser::What what = PathChooser::What::Folder, bool listed = true) {
     home.makeFolder(u"local/hanging-share/in"_s);
+    home.makeFolder(u"local/jobs/in"_s);
     window.show();
     const PathChooser::Texts texts{u"t"_s, u"Select"_s, u"Cancel"_s, u"p"_s, u"log.txt"_s};
     chooser = std::make_unique<PathChooser>(&window);
@@ -170,6 +171,59 @@ class tst_PathChooser : public QObject {
       QTRY_COMPARE(it.dialog->directory().path(), it.local + end);
       QVERIFY(it.line().isEmpty());
     }
+  }
+
+  void localStepsAreLikeTheToolkitsOwn() {
+    OpenChooser it;
+    auto* const name = it.part<QLineEdit>("fileNameEdit");
+    it.part<QAbstractItemView>("treeView")->setFocus();
+    it.activate("treeView", u"jobs"_s);
+    QTRY_VERIFY(it.row(u"in"_s).isValid());
+    QCOMPARE(name->text(), QString());
+    name->setFocus();
+    name->setText(u".."_s);
+    QTest::keyClick(name, Qt::Key_Slash);
+    QTRY_VERIFY(it.part<QListView>("listView")->selectionModel()->hasSelection());
+    name->setText(u"../jobs/in"_s);
+    it.press(QDialogButtonBox::Open);
+    QTRY_VERIFY2(it.ended, "what is typed is chosen, and not what was on the way");
+    QCOMPARE(it.chosen, it.local + u"/jobs/in"_s);
+  }
+
+  void aNameThatWasCompletedIsChosen_data() {
+    addColumns<QString, QString>("typed", "chosen");
+    QTest::newRow("local") << u"jo"_s << u"/jobs"_s;
+    QTest::newRow("a share, of which nothing more is completed") << u"hang"_s << u"/hanging-share"_s;
+  }
+  void aNameThatWasCompletedIsChosen() {
+    QFETCH(QString, typed);
+    QFETCH(QString, chosen);
+    OpenChooser it;
+    const auto press = [&](Qt::Key key) {
+      auto* const list = QApplication::activePopupWidget();
+      QTest::keyClick(list ? list : it.part<QLineEdit>("fileNameEdit"), key);
+    };
+    QTest::keyClicks(it.part<QLineEdit>("fileNameEdit"), typed);
+    QTRY_VERIFY(QApplication::activePopupWidget());
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    QTRY_VERIFY(it.ended);
+    QCOMPARE(it.chosen, it.local + chosen);
+  }
+
+  void aToolkitThatIsBuiltOtherwiseIsLeftAlone() {
+    class OtherToolkit : public QObject {
+      bool eventFilter(QObject* watched, QEvent*) override {
+        if (watched->objectName() == u"sidebar") watched->setObjectName(u"places"_s);
+        return false;
+      }
+    } other;
+    qApp->installEventFilter(&other);
+    OpenChooser it;
+    QVERIFY(!it.part<QLabel>("SilentFolderText"));
+    it.type(u"hanging-share"_s);
+    QTRY_VERIFY(it.ended);
+    QCOMPARE(it.chosen, it.share);
   }
 
   void cancellingWaitsForNothing_data() {
