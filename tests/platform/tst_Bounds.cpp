@@ -125,7 +125,7 @@ class tst_Bounds : public QObject {
         "31 22 0:41 / /auto/x rw - autofs systemd-1 rw\n"
         "32 22 0:42 / /auto/y rw - autofs systemd-1 rw\n"
         "33 32 0:43 / /auto/y rw - nfs4 server:/y rw\n",
-        "# a comment /mnt/no x\nUUID=1 / ext4 defaults 0 1\n//server/p\t/mnt/paper/ cifs noauto 0 0\n"
+        "#//server/n /mnt/no cifs\nUUID=1 / ext4 defaults 0 1\n//server/p\t/mnt/paper/ cifs noauto 0 0\n"
         "//server/a /mnt/a\\040b cifs ro 0 0\nUUID=2 none swap sw 0 0\n");
     // The path, where it was mounted at the last look, and what is missing.
     const std::array<QByteArray, 3> rows[] = {{"/mnt/a b/in", "/mnt/a b", ""},
@@ -133,7 +133,8 @@ class tst_Bounds : public QObject {
                                               {"/srv/press/in", "/srv/press", "/srv/press"},
                                               {"/srv/press2", "/srv/press", ""},  // only begins alike
                                               {"/mnt/a b/in", "/mnt", ""},        // another mount came on top
-                                              {"/mnt/paper", "", "/mnt/paper"},   // in the administrator's table
+                                              {"/mnt/no/in", "", ""},
+                                              {"/mnt/paper", "", "/mnt/paper"},  // in the administrator's table
                                               {"/auto/x/in", "/auto/x", "/auto/x"},
                                               {"/auto/y/in", "/auto/y", ""},
                                               {"/srv/other", "/mnt/a b", ""}};
