@@ -139,14 +139,6 @@ class tst_AdminWindow : public QObject {
     QTRY_VERIFY(!Problems::present().isEmpty());
     QCOMPARE(Problems::present().first().kind, Problem::Kind::PreferencesNotSaved);
   }
-
-  void labelsAreBlackOnALightGround() {
-    AdminFixture fixture;
-    QPalette light = QApplication::palette();
-    light.setColor(QPalette::WindowText, QColor(35, 38, 41));
-    fixture.open().setPalette(light);
-    QCOMPARE(fixture.control("adminPasswordLabel")->palette().color(QPalette::WindowText), QColor(Qt::black));
-  }
 };
 
 VANTRY_TEST(tst_AdminWindow);

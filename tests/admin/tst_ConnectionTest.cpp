@@ -58,16 +58,11 @@ class tst_ConnectionTest : public QObject {
   }
 
   void whoGaveNoAnswerIsNamed() {
-    using Phase = HttpFailure::Phase;
-    const struct {
-      Phase phase;
-      bool atProxy;
-      QString line;
-    } rows[] = {{Phase::Connect, false, klTestNotReached()}, {Phase::Connect, true, klTestProxyNotReached()}};
     ConnectionAnswer answer;
-    for (const auto& row : rows) {
-      answer.failure = {row.phase, 0, u"why"_s, u"host:7"_s, row.atProxy};
-      QCOMPARE(connectionLine(answer, {}).text, QString(row.line).replace(u"$1"_s, u"host:7"_s));
+    for (const bool atProxy : {false, true}) {
+      answer.failure = {HttpFailure::Phase::Connect, 0, u"why"_s, u"host:7"_s, atProxy};
+      QString line = atProxy ? klTestProxyNotReached() : klTestNotReached();
+      QCOMPARE(connectionLine(answer, {}).text, line.replace(u"$1"_s, u"host:7"_s));
     }
     answer.kind = ConnectionAnswer::Kind::Succeeded;
     QCOMPARE(connectionLine(answer, proxyOfFields(u" host "_s, u"70000"_s)).text, klTestSucceededNoPort());

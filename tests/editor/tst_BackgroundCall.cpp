@@ -48,38 +48,34 @@ class tst_BackgroundCall : public QObject {
     }
   }
 
-  void anAnswerThatNobodyWaitsForIsDropped_data() {
-    QTest::addColumn<int>("how");
-    QTest::newRow("cancelled") << 0;
-    QTest::newRow("begun anew") << 1;
-    QTest::newRow("its owner is gone") << 2;
-  }
   void anAnswerThatNobodyWaitsForIsDropped() {
-    QFETCH(int, how);
-    Gate gate;
-    QStringList answers;
-    std::atomic<bool> toldToStop{false};
-    const auto done = [&](const QString& text) {
-      QCOMPARE(QThread::currentThread(), thread());
-      answers << text;
-    };
-    const auto work = [&](const BackgroundCall::Cancelled& cancelled) {
-      gate.wait();
-      toldToStop = cancelled();
-      return u"old"_s;
-    };
-    gate.call->run<QString>(0, work, done);
-    if (how == 0) gate.call->cancel();
-    if (how == 1)
-      gate.call->run<QString>(
-          0, [](const auto&) { return u"new"_s; }, done);
-    if (how == 2) gate.call.reset();
-    gate.open();
-    QVERIFY(BackgroundCall::waitForAll(60'000));
-    QVERIFY(toldToStop);
-    if (how == 1) QTRY_COMPARE(answers, QStringList{u"new"_s});
-    QCoreApplication::processEvents();
-    QCOMPARE(answers.size(), how == 1 ? 1 : 0);
+    enum Way { Cancelled, BegunAnew, OwnerGone };
+    for (const Way way : {Cancelled, BegunAnew, OwnerGone}) {
+      Gate gate;
+      QStringList answers;
+      std::atomic<bool> toldToStop{false};
+      const auto done = [&](const QString& text) {
+        QCOMPARE(QThread::currentThread(), thread());
+        answers << text;
+      };
+      const auto work = [&](const BackgroundCall::Cancelled& cancelled) {
+        gate.wait();
+        toldToStop = cancelled();
+        return u"old"_s;
+      };
+      gate.call->run<QString>(0, work, done);
+      if (way == Cancelled) gate.call->cancel();
+      if (way == BegunAnew)
+        gate.call->run<QString>(
+            0, [](const auto&) { return u"new"_s; }, done);
+      if (way == OwnerGone) gate.call.reset();
+      gate.open();
+      QVERIFY(BackgroundCall::waitForAll(60'000));
+      QVERIFY(toldToStop);
+      if (way == BegunAnew) QTRY_COMPARE(answers, QStringList{u"new"_s});
+      QCoreApplication::processEvents();
+      QCOMPARE(answers.size(), way == BegunAnew ? 1 : 0);
+    }
   }
 
   void workThatThrowsIsNoAnswerAndThreadsThatHangDoNotPileUp() {

@@ -1,32 +1,15 @@
 // The editor's form, offscreen, by object name: its controls, keys, lists and colours.
 
-#include <QTranslator>
-#include <stdexcept>
-
 #include "EditorFixture.h"
 #include "practice/PracticeService.h"
 #include "service/VantryUtil.h"
 
 using namespace Qt::Literals::StringLiterals;
 
-/// Throws once, at the n-th text that is looked up, as a machine without memory would.
-class FailingTranslator : public QTranslator {
- public:
-  [[nodiscard]] bool isEmpty() const override { return false; }
-  [[nodiscard]] QString translate(const char*, const char*, const char*, int) const override {
-    if (m_left-- == 0) throw std::runtime_error("planted");
-    return {};
-  }
-  void failAt(int lookUp) { m_left = lookUp; }
-
- private:
-  mutable int m_left = -1;
-};
-
 class tst_EditTaskWindow : public QObject {
   Q_OBJECT
  private slots:
-  void theKeyboardReachesEveryControlByNameTabAndLetter() {
+  void theKeyboardReachesEveryControlByNameAndTab() {
     EditorFixture fixture;
     const EditTaskWindow& dialog = fixture.openNew();
     QCOMPARE(controlsWithoutName(dialog), QStringList());
@@ -48,28 +31,22 @@ class tst_EditTaskWindow : public QObject {
              "OutputFolderURL outputLogin outputPassword ClearProcessDateStampButton"_s);
     QTest::keyClick(fixture.control("TaskDescription"), Qt::Key_Tab);
     QVERIFY(fixture.control<QPlainTextEdit>("TaskDescription")->toPlainText().isEmpty());
-    for (const int warden : {0, 1, 0}) {
-      fixture.list("Warden")->setCurrentIndex(warden);
-      QStringList letters;
-      for (const QLabel* const label : dialog.findChildren<QLabel*>()) letters << label->text();
-      for (const QAbstractButton* const button : dialog.findChildren<QAbstractButton*>()) letters << button->text();
-      for (QString& text : letters) text = QKeySequence::mnemonic(text).toString();
-      letters.removeAll(QString());
-      QVERIFY(letters.removeDuplicates() == 0 && letters.size() >= 18);
-    }
     for (const char* const field : {"InputPassword", "outputPassword"})
       QCOMPARE(fixture.control<QLineEdit>(field)->echoMode(), QLineEdit::Password);
   }
 
-  void redStaysReadableOnADarkGround() {
+  void whatIsRedAndTheCuesCanBeReadOnADarkGround() {
     EditorFixture fixture;
     QPalette dark(QColor(50, 50, 50), QColor(40, 40, 40));
-    dark.setColor(QPalette::WindowText, Qt::white);
+    for (const auto role : {QPalette::Text, QPalette::WindowText}) dark.setColor(role, Qt::white);
+    dark.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
     fixture.openNew().setPalette(dark);
     const auto colour = [&] { return fixture.control("TaskNameLabel")->palette().color(QPalette::WindowText); };
     QVERIFY(colour().red() == 255 && colour().lightness() > 150);
     fixture.type("TaskName", u"Press"_s);
     QCOMPARE(colour(), QColor(Qt::white));
+    const QPalette field = fixture.control("FileNameExclusion")->palette();
+    QCOMPARE(field.color(QPalette::PlaceholderText), QColor(255, 255, 255, 128));
   }
 
   void theListsFollowTheKindAndAutoRecognitionNeedsNone() {
@@ -127,35 +104,6 @@ class tst_EditTaskWindow : public QObject {
     QTRY_VERIFY(fixture.canSave());
     VantryUtil::setAccountURL({});
     VantryUtil::setExtraCaFile({});
-  }
-
-  void theTaskIsNeverLeftBusy() {
-    EditorFixture fixture;
-    const TaskPointer task = fixture.storedTask();
-    FailingTranslator translator;
-    QVERIFY(QCoreApplication::installTranslator(&translator));
-    for (int lookUp = 0; lookUp < 60; lookUp += 4) {
-      translator.failAt(lookUp);
-      const BoxAnswer told(QMessageBox::Ok);
-      QVERIFY(!EditTaskWindow::EditTask(task, nullptr));
-      QCOMPARE(told.text(), u"The task editor could not be opened: planted"_s);
-      QVERIFY2(!task->Busy, qPrintable(QString::number(lookUp)));
-    }
-    QCoreApplication::removeTranslator(&translator);
-  }
-
-  void labelsAreBlackOnALightGroundAndTheCueCanBeReadOnADarkOne() {
-    EditorFixture fixture;
-    QPalette palette = QApplication::palette();
-    palette.setColor(QPalette::WindowText, QColor(35, 38, 41));
-    fixture.openNew().setPalette(palette);
-    QCOMPARE(fixture.control("outputFolderLabel")->palette().color(QPalette::WindowText), QColor(Qt::black));
-    palette = QPalette(QColor(50, 50, 50), QColor(40, 40, 40));
-    palette.setColor(QPalette::Text, Qt::white);
-    palette.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
-    fixture.dialog().setPalette(palette);
-    const QPalette field = fixture.control("FileNameExclusion")->palette();
-    QCOMPARE(field.color(QPalette::PlaceholderText), QColor(255, 255, 255, 128));
   }
 };
 

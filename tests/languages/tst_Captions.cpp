@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QStyleOptionButton>
 #include <QStyleOptionComboBox>
@@ -121,6 +122,18 @@ static QStringList outOfPlace(const QWidget& window) {
   return found;
 }
 
+/// How many letters the window's menus, buttons and labels can be called by, or -1 if two have the same.
+static qsizetype lettersOf(const QWidget& window) {
+  QStringList letters;
+  for (const QMenuBar* const bar : window.findChildren<QMenuBar*>())
+    for (const QAction* const menu : bar->actions()) letters << menu->text();
+  for (const QLabel* const label : window.findChildren<QLabel*>()) letters << label->text();
+  for (const QAbstractButton* const button : window.findChildren<QAbstractButton*>()) letters << button->text();
+  for (QString& text : letters) text = QKeySequence::mnemonic(text).toString();
+  letters.removeAll(QString());
+  return letters.removeDuplicates() == 0 ? letters.size() : -1;
+}
+
 class tst_Captions : public QObject {
   Q_OBJECT
  private slots:
@@ -139,12 +152,14 @@ class tst_Captions : public QObject {
     QFETCH(QString, language);
     QFETCH(int, window);
     QFETCH(int, pixels);
+    const int fewestLetters[] = {8, 18, 18, 6, 6, 1};  // in English; scripts without letters have none
     const TemporaryHome home;
     std::optional<FontSize> font;
     if (pixels > 0) font.emplace(pixels);
     Languages::install(language);
     const std::unique_ptr<QWidget> shown = windows[window].make();
     (void)shown->grab();  // lays it out
+    QVERIFY(lettersOf(*shown) >= (language.isEmpty() ? fewestLetters[window] : 0));
     QStringList cut;
     for (const QWidget* const control : shown->findChildren<QWidget*>())
       if (control->isVisibleTo(shown.get()) && !Eliding.contains(control->objectName()) && !captionFits(*control))

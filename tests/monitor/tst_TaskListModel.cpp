@@ -5,7 +5,6 @@
 
 #include "monitor/TaskListModel.h"
 #include "support/TestRunner.h"
-#include "widgets/Pictures.h"
 
 using namespace Qt::Literals::StringLiterals;
 using Model = TaskListModel;
@@ -85,15 +84,6 @@ class tst_TaskListModel : public QObject {
     QVERIFY2(!model.hasUnevaluated(), "a disabled task is not waited for at the start");
     model.setTasks({makeTask(u"a"_s), makeTask(u"b"_s, 0)}, true);
     QVERIFY(model.hasUnevaluated());
-  }
-
-  void thePicturesOfTheStatesDifferInShape() {
-    QSet<QByteArray> outlines;
-    for (const auto& name : {u"up_status_off"_s, u"up_status_active"_s, u"up_status_check"_s, u"up_status_fail"_s}) {
-      const QImage alpha = Pictures::load(name, 1).toImage().convertToFormat(QImage::Format_Alpha8);
-      outlines.insert(QByteArray(reinterpret_cast<const char*>(alpha.constBits()), alpha.sizeInBytes()));
-    }
-    QCOMPARE(outlines.size(), 4);
   }
 };
 

@@ -1,11 +1,8 @@
-// The update check: what a reply means, and the exchange on a real socket.
+// The update check: what a reply means.
 
 #include <QTest>
 
-#include "ScriptedServer.h"
 #include "service/UpdateReply.h"
-#include "service/VersionCheckerClass.h"
-#include "storage/Preferences.h"
 #include "support/TestRunner.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -33,33 +30,6 @@ class tst_VersionChecker : public QObject {
     QString misfit;
     const auto offer = readUpdateReply(reply, {2, 1, 1, 15}, misfit);
     QTEST(offer ? (offer->url.isEmpty() ? u"not newer"_s : u"newer"_s) : misfit, "outcome");
-  }
-
-  void theExchange_data() {
-    QTest::addColumn<QByteArray>("answer");
-    QTest::addColumn<QByteArray>("logged");
-    const QByteArray page = "\r\n\r\n" + json("{'version':'99999.0.0v1','mac':'http://d/'}");
-    QTest::newRow("a page of any status") << "HTTP/1.0 404 No" + page << QByteArray();
-    QTest::newRow("a part of a page") << "HTTP/1.0 200 OK\r\nContent-length: 99" + page
-                                      << QByteArray("Update check: no reply. .+");
-    QTest::newRow("too long") << "HTTP/1.0 200 OK" + page + QByteArray(100'000, ' ')
-                              << QByteArray("Update check: no reply. .+");
-    QTest::newRow("no JSON") << QByteArray("HTTP/1.0 200 OK\r\n\r\n<p>")
-                             << QByteArray("Update check: the reply doesn't fit: .+");
-  }
-  void theExchange() {
-    QFETCH(QByteArray, logged);
-    QFETCH(QByteArray, answer);
-    ScriptedServer proxy(ScriptedServer::answer(answer));
-    VantryUtil::setProxy({u"127.0.0.1"_s, proxy.port()});
-    QStringList events;
-    VersionCheckerClass checker([](const auto& get, const auto& received) { received(get()); }, u"http://u/x.php"_s);
-    checker.NewVersionAvailable = [&](const QString& version, const QString& url) { events << version << url; };
-    if (!logged.isEmpty()) QTest::ignoreMessage(QtInfoMsg, QRegularExpression(QString::fromUtf8(logged)));
-    checker.CheckVersion();
-    VantryUtil::setProxy({});
-    QCOMPARE(events.join(u' '), !logged.isEmpty() ? QString() : u"99999.0.0v1 http://d/"_s);
-    QVERIFY(proxy.received().startsWith("GET http://u/x.php HTTP/1.0\r\n"));
   }
 };
 

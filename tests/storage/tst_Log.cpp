@@ -100,16 +100,6 @@ class tst_Log : public QObject {
     QCOMPARE(Sql(path()).text("PRAGMA journal_mode"), u"delete"_s);
   }
 
-  void aStrangersFileWithoutTheTableStaysAsItIs() {
-    Sql stranger(path());
-    stranger.run("create table other (x)");
-    const auto log = open();
-    QString error;
-    QVERIFY(log.database && log.setAsideAs.isEmpty() && !log.database->insert({}, &error));
-    QVERIFY2(error.contains(u"no such table"), qPrintable(error));
-    QCOMPARE(stranger.text("select name from sqlite_master"), u"other"_s);
-  }
-
   void rowsAreVisitedInTheOrderAskedForAndNothingStaysLocked() {
     auto log = open();
     for (int i = 1; i <= 30; ++i)
@@ -136,14 +126,6 @@ class tst_Log : public QObject {
     QCOMPARE(other.text("insert into log (Notes) values ('x'); drop table log"), QString());
     QVERIFY(!opened.reader->ids(0, 1, &error));
     QCOMPARE(error, u"log.db: no such table: log"_s);
-  }
-
-  void deletingTakesAllRowsAndTheLogGoesOn() {
-    const auto log = open();
-    QString error;
-    QVERIFY(log.database->insert({.Notes = u"old"_s}, nullptr) && log.database->deleteAll(&error));
-    QVERIFY(log.database->insert({.Notes = u"new"_s}, nullptr));
-    QCOMPARE(Sql(path()).text("select Notes from log"), u"new"_s);
   }
 
   void whatWasNotStoredStandsAsNAAndALostRowIsToldUntilOneIsWrittenAgain() {
