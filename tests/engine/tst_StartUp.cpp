@@ -119,7 +119,7 @@ class tst_StartUp : public QObject {
     service.misbehave({.kind = Misbehaviour::Kind::NoReply});
     StartUp::refresh(true);
     QVERIFY(VTTrack::ListDevices().isEmpty() && VantryUtil::AccountURL().isEmpty());
-    QVERIFY(service.waitForRequests(1, 10'000));
+    QVERIFY(service.waitForRequests(1, 60'000));
     QVERIFY2(!UploadThread::Enabled, "no file goes out before the endpoint has been asked for");
     UploadThread::enable();
     QVERIFY(!UploadThread::Enabled);
@@ -137,26 +137,15 @@ class tst_StartUp : public QObject {
 
   void anAnswerToTheLoginBeforeIsDropped() {
     EngineBench bench;
-    bench.service.misbehave({.kind = Misbehaviour::Kind::TrickleReply, .bytes = 100, .everyMs = 20});
-    VTTrack::forget();
-    std::thread slow([] { (void)VantryUtil::TrackList(); });
-    const bool asked = bench.service.waitForRequests(1, 10'000);
-    const bool another = VantryUtil::changeAccount(u"another"_s, u"x"_s, {});
-    slow.join();
-    QVERIFY(asked && another);
-    QVERIFY(VTTrack::ListDevices().isEmpty() && !VTTrack::everFetched());
-
-    PracticeService::Options options;
-    options.login = u"another"_s, options.password = u"x"_s;
-    PracticeService service(options);
+    PracticeService service;
     startAtDefault(service);
     service.misbehave({.kind = Misbehaviour::Kind::TrickleReply, .bytes = 100, .everyMs = 20});
     bool resolved = true;
-    std::thread slowToo([&resolved] { resolved = VantryUtil::ResolveAccountURL(); });
-    const bool askedToo = service.waitForRequests(1, 10'000);
-    VantryUtil::changeAccount(u"a third"_s, u"x"_s, {});
-    slowToo.join();
-    QVERIFY(askedToo && !resolved && VantryUtil::AccountURL().isEmpty());
+    std::thread slow([&resolved] { resolved = VantryUtil::ResolveAccountURL(); });
+    const bool asked = service.waitForRequests(1, 60'000);
+    VantryUtil::changeAccount(u"another"_s, u"x"_s, {});
+    slow.join();
+    QVERIFY(asked && !resolved && VantryUtil::AccountURL().isEmpty());
   }
 };
 
