@@ -316,7 +316,7 @@ class tst_Pipeline : public QObject {
     UploaderTask::addTask(task);
     bench.service.whenBodyReaches(200'000, [&] { bench.service.hold(); });
     UploadThread::Start();
-    QVERIFY(bench.service.waitForHeld(1, 10'000));
+    QVERIFY(bench.service.waitForHeld(1, 60'000));
     QVERIFY(UploadThread::stop(20'000));
     QCOMPARE(bench.notes(), QStringList{Saved});
     QVERIFY(bench.files(ErrorFolder).isEmpty());
@@ -340,7 +340,7 @@ class tst_Pipeline : public QObject {
     QVERIFY(other.start());
     bench.service.hold();
     UploadThread::Start();
-    QVERIFY(bench.service.waitForHeld(1, 10'000));
+    QVERIFY(bench.service.waitForHeld(1, 60'000));
     {
       const UploadHold hold;  // as the admin window's
       QVERIFY(VantryUtil::changeAccount(options.login, options.password, {}));

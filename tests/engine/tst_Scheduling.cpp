@@ -33,7 +33,7 @@ class tst_Scheduling : public QObject {
     addTask(bench, u"c"_s, 1)->disabled = true;
     bench.service.hold();
     UploadThread::Start();
-    QVERIFY(bench.service.waitForHeld(1, 10'000));
+    QVERIFY(bench.service.waitForHeld(1, 60'000));
     UploadThread::Enabled = false;
     bench.service.release();
     QTRY_VERIFY(!UploadThread::ProcessingNow());
@@ -42,7 +42,7 @@ class tst_Scheduling : public QObject {
     QCOMPARE(bench.received(), (QStringList{u"A1.txt"_s, u"A2.txt"_s}));
     UploadThread::Enabled = true;
     UploadThread::Start();
-    QVERIFY(bench.service.waitForReceipts(3, 10'000));
+    QVERIFY(bench.service.waitForReceipts(3, 60'000));
     QTRY_VERIFY(!UploadThread::ProcessingNow());
     QCOMPARE(bench.received(), (QStringList{u"A1.txt"_s, u"A2.txt"_s, u"b1.txt"_s}));
   }

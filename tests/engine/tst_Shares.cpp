@@ -72,7 +72,7 @@ class tst_Shares : public QObject {
     bench.drop(u"a2.txt"_s, "x", u"hanging-share/a"_s);
     bench.service.hold();
     UploadThread::Start();
-    QVERIFY(bench.service.waitForHeld(1, 10'000));
+    QVERIFY(bench.service.waitForHeld(1, 60'000));
     listed(bench, u"c"_s, u"local"_s);
     {
       const HangingShare hangs;
@@ -103,7 +103,7 @@ class tst_Shares : public QObject {
     bench.drop(u"a3.txt"_s, "x", u"hanging-share/a"_s);
     bench.service.whenBodyReaches(200'000, [&] { bench.service.hold(); });
     UploadThread::Start();
-    QVERIFY(bench.service.waitForHeld(1, 10'000));
+    QVERIFY(bench.service.waitForHeld(1, 60'000));
     QTRY_COMPARE(bench.notes().size(), 1);  // a1 is kept
     TaskPointer present;
     {
@@ -147,7 +147,7 @@ class tst_Shares : public QObject {
     bench.drop(u"a2.txt"_s);
     bench.service.hold();
     UploadThread::Start();
-    QVERIFY(bench.service.waitForHeld(1, 10'000));
+    QVERIFY(bench.service.waitForHeld(1, 60'000));
     QVERIFY(QDir().rename(bench.home.path(folder), bench.home.path(u"away"_s)));
     bench.service.release();
     QTRY_VERIFY(!UploadThread::ProcessingNow());
