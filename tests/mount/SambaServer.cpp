@@ -57,9 +57,7 @@ read only = no
                 .toUtf8());
 }
 
-SambaServer::~SambaServer() {
-  if (m_server.state() != QProcess::NotRunning) stop();
-}
+SambaServer::~SambaServer() { stop(); }
 
 void SambaServer::start() {
   bindChild(m_server);
@@ -76,7 +74,9 @@ void SambaServer::start() {
   if (!QTest::qWaitFor(answers, 10'000)) qFatal("the file server doesn't start:\n%s", m_server.readAll().constData());
 }
 
-void SambaServer::signalAll(int number) const { ::kill(-static_cast<pid_t>(m_server.processId()), number); }
+void SambaServer::signalAll(int number) const {
+  if (m_server.processId() > 0) ::kill(-static_cast<pid_t>(m_server.processId()), number);
+}
 
 void SambaServer::stop() {
   signalAll(SIGKILL);
