@@ -45,5 +45,6 @@ void Problems::clearKind(Problem::Kind kind) {
 
 QList<Problem> Problems::present() {
   QMutexLocker lock(&board().mutex);
-  return board().problems;
+  // A copy of its own and not a shared one, of which a thread could still read while the board is written.
+  return {board().problems.cbegin(), board().problems.cend()};
 }

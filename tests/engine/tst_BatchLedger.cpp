@@ -182,17 +182,6 @@ class tst_BatchLedger : public QObject {
     QCOMPARE(scene.sent, QList<int>{3});
   }
 
-  void ourClockSetBackLosesNothing() {
-    Scene scene;
-    scene.clock.jump(86400.0 * 400);
-    scene.write("dated wrongly.txt");
-    scene.passes(2);
-    scene.clock.jump(-86400.0 * 400);
-    scene.write("after.txt");
-    scene.passes(4);
-    QCOMPARE(scene.sent, (QList<int>{1, 2}));
-  }
-
   void ourClockSetRightSendsEachFileOnce_data() {
     addColumns<double, bool>("shareSkew", "restarts");
     QTest::newRow("local files") << 0.0 << false;

@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <atomic>
 #include <numeric>
-#include <stdexcept>
 #include <vector>
 
 #include "engine/OrderedWork.h"
@@ -29,25 +28,6 @@ class tst_OrderedWork : public QObject {
     }
     QCOMPARE(order, expected);                                         // its end waits for what was given
     QVERIFY2(mostAhead <= 8, qPrintable(QString::number(mostAhead)));  // four wait beside four in work
-  }
-
-  void aFailureDoesNotTakeTheOthersWithIt() {
-    std::vector<int> done;
-    OrderedWork<int> work("test-work", [&](std::vector<int>& group) {
-      for (const int item : group) {
-        if (item == 1) throw std::runtime_error("first");
-        if (item == 2) throw 2;
-        done.push_back(item);
-      }
-    });
-    for (int i = 0; i < 4; ++i) {
-      work.add(i);
-      work.wait();
-    }
-    QCOMPARE(done, (std::vector{0, 3}));
-    QVERIFY(work.failed());
-    QVERIFY_THROWS_EXCEPTION(std::runtime_error, work.throwFailure());
-    QVERIFY(!work.failed());  // it is told once
   }
 };
 

@@ -19,9 +19,9 @@ void bindChild(QProcess& process) {
   });
 }
 
-static void write(const QString& path, const QString& text) {
+void writeFile(const QString& path, const QByteArray& text) {
   QFile file(path);
-  if (!file.open(QIODevice::WriteOnly) || file.write(text.toUtf8()) < 0) qFatal("cannot write %s", qPrintable(path));
+  if (!file.open(QIODevice::WriteOnly) || file.write(text) < 0) qFatal("cannot write %s", qPrintable(path));
 }
 
 PrivateSession::PrivateSession() {
@@ -30,11 +30,12 @@ PrivateSession::PrivateSession() {
   QFile::copy(u"/usr/share/dbus-1/services/org.gtk.vfs.Daemon.service"_s, services + u"/org.gtk.vfs.Daemon.service"_s);
   QDir().mkpath(m_dir.filePath(u"run"_s));
   QFile::setPermissions(m_dir.filePath(u"run"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-  write(m_dir.filePath(u"bus.conf"_s),
-        uR"(<busconfig>
+  writeFile(m_dir.filePath(u"bus.conf"_s),
+            uR"(<busconfig>
 <type>session</type><listen>unix:path=%1/bus</listen><auth>EXTERNAL</auth><servicedir>%2</servicedir>
 <policy context="default"><allow send_destination="*" eavesdrop="true"/><allow eavesdrop="true"/><allow own="*"/></policy>
-</busconfig>)"_s.arg(m_dir.path(), services));
+</busconfig>)"_s.arg(m_dir.path(), services)
+                .toUtf8());
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   environment.insert(u"XDG_RUNTIME_DIR"_s, m_dir.filePath(u"run"_s));
   environment.insert(u"HOME"_s, m_dir.path());

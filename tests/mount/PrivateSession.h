@@ -7,6 +7,7 @@
 
 /// Makes a child end with this program, and lead a group of its own.
 void bindChild(QProcess& process);
+void writeFile(const QString& path, const QByteArray& text);
 
 class PrivateSession {
  public:

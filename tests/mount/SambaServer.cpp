@@ -15,26 +15,23 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-static void write(const QString& path, const QByteArray& text) {
-  QFile file(path);
-  if (!file.open(QIODevice::WriteOnly) || file.write(text) < 0) qFatal("cannot write %s", qPrintable(path));
-}
+static QString login() { return QString::fromLocal8Bit(::getpwuid(::getuid())->pw_name); }
+static const QString Password = u"ink & paper"_s;
 
-SambaServer::SambaServer() : m_login(QString::fromLocal8Bit(::getpwuid(::getuid())->pw_name)) {
+SambaServer::SambaServer() {
   {
     QTcpServer port;
     if (!port.listen(QHostAddress::LocalHost)) qFatal("no free port");
     m_port = port.serverPort();
   }
   for (const QString& name : {u"share"_s, u"state"_s, u"state/rpc"_s}) QDir(m_dir.path()).mkdir(name);
-  const QString utf16 = password();
   const QByteArray hash = QCryptographicHash::hash(
-      QByteArray(reinterpret_cast<const char*>(utf16.utf16()), utf16.size() * 2), QCryptographicHash::Md4);
-  const QByteArray account = m_login.toUtf8() + ':' + QByteArray::number(::getuid()) + ':' + QByteArray(32, 'X') + ':' +
+      QByteArray(reinterpret_cast<const char*>(Password.utf16()), Password.size() * 2), QCryptographicHash::Md4);
+  const QByteArray account = login().toUtf8() + ':' + QByteArray::number(::getuid()) + ':' + QByteArray(32, 'X') + ':' +
                              hash.toHex().toUpper() + ":[U          ]:LCT-00000001:\n";
-  write(m_dir.filePath(u"passwd"_s), account);
-  write(m_dir.filePath(u"smb.conf"_s),
-        uR"([global]
+  writeFile(m_dir.filePath(u"passwd"_s), account);
+  writeFile(m_dir.filePath(u"smb.conf"_s),
+            uR"([global]
 server role = standalone server
 smb ports = %2
 interfaces = lo
@@ -56,13 +53,11 @@ invalid users =
 path = %1/share
 read only = no
 )"_s.arg(m_dir.path())
-            .arg(m_port)
-            .toUtf8());
+                .arg(m_port)
+                .toUtf8());
 }
 
-SambaServer::~SambaServer() {
-  if (m_server.state() != QProcess::NotRunning) stop();
-}
+SambaServer::~SambaServer() { stop(); }
 
 void SambaServer::start() {
   bindChild(m_server);
@@ -79,7 +74,9 @@ void SambaServer::start() {
   if (!QTest::qWaitFor(answers, 10'000)) qFatal("the file server doesn't start:\n%s", m_server.readAll().constData());
 }
 
-void SambaServer::signalAll(int number) const { ::kill(-static_cast<pid_t>(m_server.processId()), number); }
+void SambaServer::signalAll(int number) const {
+  if (m_server.processId() > 0) ::kill(-static_cast<pid_t>(m_server.processId()), number);
+}
 
 void SambaServer::stop() {
   signalAll(SIGKILL);
@@ -90,3 +87,11 @@ void SambaServer::freeze() { signalAll(SIGSTOP); }
 void SambaServer::thaw() { signalAll(SIGCONT); }
 
 QString SambaServer::url() const { return u"smb://127.0.0.1:%1/Print Data"_s.arg(m_port); }
+
+MountRequest SambaServer::request() const {
+  MountRequest request;
+  request.url = url().replace(u' ', u"%20"_s);
+  request.userName = login();
+  request.password = Password;
+  return request;
+}

@@ -5,6 +5,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include "platform/Mount.h"
+
 class SambaServer {
  public:
   SambaServer();
@@ -17,15 +19,13 @@ class SambaServer {
   void freeze();  ///< it answers nothing, and nothing breaks
   void thaw();
 
-  [[nodiscard]] QString url() const;  ///< with the blank as it is
-  [[nodiscard]] QString login() const { return m_login; }
-  [[nodiscard]] QString password() const { return QStringLiteral("ink & paper"); }
+  [[nodiscard]] QString url() const;           ///< with the blank as it is
+  [[nodiscard]] MountRequest request() const;  ///< with the login, and the blank escaped
   [[nodiscard]] QString folder() const { return m_dir.filePath(QStringLiteral("share")); }
 
  private:
   void signalAll(int number) const;
   QTemporaryDir m_dir;
   QProcess m_server;
-  QString m_login;
   int m_port = 0;
 };

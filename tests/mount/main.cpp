@@ -2,22 +2,10 @@
 #include <cstdio>
 
 #include "PrivateSession.h"
-#include "platform/Mount.h"
 #include "support/TestRunner.h"
 
-/// For a test that needs a program which has met no session bus yet: the error of a mount within a limit.
-static int mountWithin(const QStringList& arguments) {
-  MountRequest request;
-  request.url = arguments.value(3);
-  int error = 0;
-  (void)mountShare(request, error, arguments.value(2).toInt());
-  return std::printf("%d", error) < 0;
-}
-
 int main(int argc, char** argv) {
-  QCoreApplication application(argc, argv);
-  if (QCoreApplication::arguments().value(1) == QLatin1String("mount-within"))
-    return mountWithin(QCoreApplication::arguments());
+  const QCoreApplication application(argc, argv);
   const QString missing = PrivateSession::missing();
   if (!missing.isEmpty()) {
     std::printf(

@@ -19,24 +19,20 @@ class tst_ShareToShare : public QObject {
     Setting() {
       server.start();
       for (const QString& name : {u"in"_s, u"out"_s}) QDir(server.folder()).mkdir(name);
-      MountRequest request;
-      request.url = server.url().replace(u' ', u"%20"_s);
-      request.userName = server.login();
-      request.password = server.password();
+      const MountRequest request = server.request();
       int error = 0;
       mountPoint = mountShare(request, error);
-      unmount();
+      PrivateSession::unmount(request.url);
       task = bench.makeTask();
       task->inputFolderPath = mountPoint + u"/in"_s;
       task->outputFolderPath = mountPoint + u"/out"_s;
       task->AutoMountInputFolder = task->autoMountOutputFolder = true;
       task->inputfolderURL = task->outputFolderUrl = server.url();
-      task->InputLogin = task->outputLogin = server.login();
-      task->inputPassword = task->outputPassword = server.password();
+      task->InputLogin = task->outputLogin = request.userName;
+      task->inputPassword = task->outputPassword = request.password;
       UploaderTask::addTask(task);
     }
-    ~Setting() { unmount(); }
-    void unmount() const { QProcess::execute(u"gio"_s, {u"mount"_s, u"-u"_s, server.url().replace(u' ', u"%20"_s)}); }
+    ~Setting() { PrivateSession::unmount(server.request().url); }
     /// Puts a file into the share from the server's side, at rest for a minute.
     void drop(const QString& name) const {
       const QString path = server.folder() + u"/in/"_s + name;

@@ -62,12 +62,6 @@ int mountTable(const char* path) {
   return table;
 }
 
-int openFile(const char* path, int flags, mode_t mode) {
-  pass(path, HangingShare::Calls::Opening);
-  const int table = mountTable(path);
-  return table >= 0 ? table : ::openat(AT_FDCWD, path, flags, mode);
-}
-
 }  // namespace
 
 MountedShare::MountedShare(const QString& folder) {
@@ -133,13 +127,9 @@ extern "C" int open(const char* path, int flags, ...) {
   va_start(arguments, flags);
   const mode_t mode = (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(arguments, mode_t) : 0;
   va_end(arguments);
-  return openFile(path, flags, mode);
+  pass(path, HangingShare::Calls::Opening);
+  const int table = mountTable(path);
+  return table >= 0 ? table : ::openat(AT_FDCWD, path, flags, mode);
 }
 
-extern "C" int open64(const char* path, int flags, ...) {
-  va_list arguments;
-  va_start(arguments, flags);
-  const mode_t mode = (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(arguments, mode_t) : 0;
-  va_end(arguments);
-  return openFile(path, flags, mode);
-}
+extern "C" int open64(const char* path, int flags, ...) __attribute__((alias("open")));
