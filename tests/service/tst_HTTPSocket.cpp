@@ -173,7 +173,7 @@ class tst_HTTPSocket : public QObject {
       peer.write("HTTP/1.0 200 OK\r\n\r\nyes");
     });
     HTTPSocket socket;
-    socket.SetRequestSource(std::make_unique<SlowSource>(1, 1000, -1), "text/plain");
+    socket.SetRequestSource(std::make_unique<SlowSource>(1, 1000), "text/plain");
     QCOMPARE(socket.Post(server.url(), Short), "yes");
     QVERIFY(!socket.failure().failed());
   }
