@@ -24,10 +24,16 @@ class Bench {
     if (!task->save(UploaderTask::TaskDirectory().Child(u"press.VNT"_s))) qFatal("cannot store a task");
     UploaderTask::addTask(task);
     MainWindowCommands commands;
-    commands.beginStartUp = [](const StartUp::Events& events) { events.tasksLoaded(); };
+    bool begun = false;
+    commands.beginStartUp = [&begun](const StartUp::Events& events) {
+      events.tasksLoaded();
+      begun = true;
+    };
     commands.editTask = [this](const TaskPointer& edited) { return EditTaskWindow::EditTask(edited, window.get()); };
     window = std::make_unique<VTUploaderMainWIndow>(commands);
     window->show();
+    if (!QTest::qWaitFor([&begun] { return begun; }, 60'000)) qFatal("the start-up did not begin");
+    QCoreApplication::processEvents();  // the window hears that the tasks are loaded
     window->ListTasks();
   }
   ~Bench() {
