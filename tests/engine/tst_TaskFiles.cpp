@@ -55,9 +55,9 @@ class tst_TaskFiles : public QObject {
       task->autoMountOutputFolder = !input;
       task->inputfolderURL = u"smb://in/a b"_s, task->outputFolderUrl = u"smb://out"_s;
       task->InputLogin = u"SHOP\\in"_s, task->outputLogin = u"out@shop"_s;
-      task->inputPassword = u"ink"_s, task->outputPassword = u"paper"_s;
+      task->inputPassword = u"magenta"_s, task->outputPassword = u"paper"_s;
       QVERIFY(task->save(UploaderTask::TaskDirectory().Child(u"x.vnt"_s)));
-      QVERIFY(!TemporaryHome::readFile(task->file->NativePath()).contains("ink"));
+      QVERIFY(!TemporaryHome::readFile(task->file->NativePath()).contains("magenta"));
       QVERIFY(UploaderTask::duplicateTask(task));
       const TaskPointer copy = UploaderTask::allTasks().last();
       QVERIFY2(copy->disabled, "it would send every file once more");
@@ -78,7 +78,7 @@ class tst_TaskFiles : public QObject {
       const QStringList out{read.outputFolderUrl, read.outputLogin, read.outputPassword};
       QCOMPARE(read.AutoMountInputFolder, input);
       QCOMPARE(read.autoMountOutputFolder, !input);
-      QCOMPARE(in.join(u' '), input ? u"smb://in/a b SHOP\\in ink"_s : u"  "_s);
+      QCOMPARE(in.join(u' '), input ? u"smb://in/a b SHOP\\in magenta"_s : u"  "_s);
       QCOMPARE(out.join(u' '), input ? u"  "_s : u"smb://out out@shop paper"_s);
     }
   }
