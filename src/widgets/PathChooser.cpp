@@ -86,8 +86,10 @@ void PathChooser::open(What what, const Texts& texts, const QString& directory) 
       if (const QStringList files = dialog->selectedFiles(); !files.isEmpty())
         chosen = FolderItem::fromNativePath(files.first());
     m_dialog = nullptr;
-    dialog->retire();
+    // Retired behind it: what is done may show a message, whose loop would delete the dialog while it still closes.
+    const QPointer<GuardedFileDialog> closing(dialog);
     if (const auto done = std::exchange(m_done, {})) done(chosen);
+    if (closing) closing->retire();
   });
   dialog->open();
 }
