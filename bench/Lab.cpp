@@ -1,6 +1,8 @@
 #include "Lab.h"
 
 #include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -41,7 +43,22 @@ static std::string numbered(const std::string& folder, int i, const std::string&
   return folder + number.data() + ending;
 }
 
-Lab::Lab(std::filesystem::path folder) : m_folder(std::filesystem::absolute(folder)) { freshFolder("."); }
+/// ext4 then spreads the folders made in this one over the disk. Without it they share the places of all that was
+/// removed near them in the last minutes, which ext4 without a journal passes over one by one: making a file could cost
+/// more than all else that is measured. Where the file system has no such flag, nothing is lost.
+static void spreadFolders(const std::string& folder) {
+  const int fd = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  int flags = 0;
+  if (ioctl(fd, FS_IOC_GETFLAGS, &flags) == 0) {
+    flags |= FS_TOPDIR_FL;
+    (void)ioctl(fd, FS_IOC_SETFLAGS, &flags);
+  }
+  close(fd);
+}
+
+Lab::Lab(std::filesystem::path folder) : m_folder(std::filesystem::absolute(folder)) {
+  spreadFolders(freshFolder("."));
+}
 
 Lab::~Lab() {
   m_sink.reset();

@@ -29,6 +29,10 @@ int FileOps::sync(int fd) {
   const FolderCall call;
   return ::fsync(fd);
 }
+void FileOps::startWriting(int fd) {
+  const FolderCall call;
+  (void)::sync_file_range(fd, 0, 0, SYNC_FILE_RANGE_WRITE);  // not every file system knows it
+}
 int FileOps::close(int fd) {
   const FolderCall call;
   return ::close(fd);

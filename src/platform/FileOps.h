@@ -13,6 +13,9 @@ class FileOps {
   /// copy_file_range from and to the files' own offsets; may do less than `size`, and nothing on some shares.
   virtual ssize_t copyRange(int from, int to, size_t size);
   virtual int sync(int fd);  ///< fsync: data and metadata
+  /// Starts the writing that sync() waits for. Only advice: sync() tells what failed. Files whose writing was started
+  /// together share what a sync of each costs.
+  static void startWriting(int fd);
   virtual int close(int fd);
   virtual int rename(const char* from, const char* to);           ///< replaces the target
   virtual int renameNoReplace(const char* from, const char* to);  ///< EEXIST if the target exists, on every file system

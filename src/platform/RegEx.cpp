@@ -7,11 +7,14 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 // PCRE2 counts its effort anew at every place where a match may begin, so a name of 255 characters may cost 255
-// times the limit. A first search with a small limit answers for patterns whose effort at each place is little more
-// than the name's length; what it gives up on is searched again with all places inside one match, where the larger
-// limit bounds the sum. Both measured for about 0.1 ms.
-constexpr int kEffortPerPlace = 160;
-constexpr int kEffortInAll = 8000;
+// times the limit. A first search with a small limit answers for most patterns; what it gives up on is searched again
+// with all places inside one match, where the larger limit bounds the sum. Both measured for about 0.1 ms.
+struct Effort {
+  int perPlace, inAll;
+};
+constexpr Effort kUsual{31, 8000};
+constexpr Effort kWithBackReferences{5, 1300};  // each compares a piece of the name
+constexpr int kPerPlaceAlone = 160;             // of a pattern that can't be searched the second way
 constexpr int kDepth = 4000;
 
 QString limits(int effort) { return u"(*LIMIT_MATCH=%1)(*LIMIT_DEPTH=%2)"_s.arg(effort).arg(kDepth); }
@@ -29,9 +32,14 @@ bool dependsOnWholePattern(const QString& pattern) {
   return false;
 }
 
+bool hasBackReferences(const QString& pattern) {
+  static const QRegularExpression reference(u"\\\\[1-9gk]|\\(\\?P="_s);
+  return reference.match(pattern).hasMatch();
+}
+
 // The \E ends a quotation that the pattern left open; the line end ends a comment in it.
-QRegularExpression withPlacesInside(const QString& pattern) {
-  const QString begin = limits(kEffortInAll) + u"\\A(?s:.*?)\\K(?:"_s + pattern;
+QRegularExpression withPlacesInside(const QString& pattern, int effort) {
+  const QString begin = limits(effort) + u"\\A(?s:.*?)\\K(?:"_s + pattern;
   QRegularExpression expression = compiled(begin + u"\\E)"_s);
   if (!expression.isValid()) expression = compiled(begin + u"\\E\n)"_s);
   return expression;
@@ -39,13 +47,15 @@ QRegularExpression withPlacesInside(const QString& pattern) {
 
 }  // namespace
 
-RegEx::RegEx(const QString& pattern)
-    : m_perPlace(compiled(limits(kEffortPerPlace) + pattern)), m_patternLength(pattern.size()) {
-  if (!m_perPlace.isValid() || dependsOnWholePattern(pattern)) return;
-  m_inAll = withPlacesInside(pattern);
+RegEx::RegEx(const QString& pattern) : m_patternLength(pattern.size()) {
+  const Effort effort = hasBackReferences(pattern) ? kWithBackReferences : kUsual;
+  m_perPlace = compiled(limits(effort.perPlace) + pattern);
+  if (!m_perPlace.isValid()) return;
+  if (!dependsOnWholePattern(pattern)) m_inAll = withPlacesInside(pattern, effort.inAll);
   // Groups numbered otherwise would mean that the pattern was not what it seemed.
-  if (m_inAll->isValid() && m_inAll->captureCount() == m_perPlace.captureCount()) return;
+  if (m_inAll && m_inAll->isValid() && m_inAll->captureCount() == m_perPlace.captureCount()) return;
   m_inAll.reset();
+  m_perPlace = compiled(limits(kPerPlaceAlone) + pattern);
 }
 
 bool RegEx::isValid() const { return m_perPlace.isValid(); }
@@ -54,7 +64,7 @@ QString RegEx::errorString() const { return isValid() ? QString() : m_perPlace.e
 
 qsizetype RegEx::errorOffset() const {
   if (isValid()) return -1;
-  const qsizetype before = limits(kEffortPerPlace).size();
+  const qsizetype before = m_perPlace.pattern().size() - m_patternLength;
   return std::clamp<qsizetype>(m_perPlace.patternErrorOffset() - before, 0, m_patternLength);
 }
 

@@ -219,7 +219,9 @@ int fillCopy(FileOps& ops, int from, HiddenFile& to, const FileVersion& version)
   if (const int error = keepDate(to.fd(), info)) return error;
   struct stat written {};
   if (statusOf(to.fd(), written) != 0) return errno;
-  return written.st_size == version.size ? 0 : EIO;
+  if (written.st_size != version.size) return EIO;
+  FileOps::startWriting(to.fd());
+  return 0;
 }
 
 }  // namespace
