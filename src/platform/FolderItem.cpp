@@ -124,6 +124,11 @@ bool FolderItem::IsReadable() const { return accessible(m_path, Directory() ? R_
 // The kernel's answer covers what modes don't tell: a read-only file system and, for root, an immutable folder.
 bool FolderItem::IsWriteable() const { return accessible(m_path, Directory() ? W_OK | X_OK : W_OK); }
 
+bool FolderItem::isSameAs(const FolderItem& other) const {
+  const auto one = lookAt(m_path), another = lookAt(other.m_path);
+  return one && another && one->st_dev == another->st_dev && one->st_ino == another->st_ino;
+}
+
 std::optional<quint64> FolderItem::Device() const {
   const auto info = lookAt(m_path);
   return info ? std::optional<quint64>(info->st_dev) : std::nullopt;

@@ -31,6 +31,7 @@ class FolderItem {
   [[nodiscard]] bool Visible() const;           ///< false for a name that begins with a dot
   [[nodiscard]] bool IsReadable() const;        ///< for a folder: listed and entered
   [[nodiscard]] bool IsWriteable() const;       ///< for a folder: files can be made in it
+  [[nodiscard]] bool isSameAs(const FolderItem& other) const;  ///< one and the same, by whatever paths
   [[nodiscard]] std::optional<quint64> Device() const;          ///< of its file system, as long as that is mounted
   [[nodiscard]] std::optional<QByteArray> WithoutLinks() const;  ///< the path that links lead to; nothing if it's gone
   [[nodiscard]] qint64 Length() const;          ///< bytes; 0 if it doesn't exist

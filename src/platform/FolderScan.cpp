@@ -50,6 +50,14 @@ bool concernsFileAlone(int error) {
   return error == ENOENT || error == ENOTDIR || error == ELOOP || error == EACCES || error == ENAMETOOLONG;
 }
 
+constexpr int kMostUnseen = 8;
+
+bool concernsShare(int error) {
+  constexpr int known[] = {ENOTCONN,    ESTALE,   ETIMEDOUT,    EHOSTDOWN,  EHOSTUNREACH, ENETUNREACH, ENETDOWN,
+                           ECONNABORTED, ECONNRESET, ESHUTDOWN, ENODEV, ENOMEM};
+  return std::find(std::begin(known), std::end(known), error) != std::end(known);
+}
+
 class Scan {
  public:
   Scan(const FolderItem& folder, const FolderScanRules& rules) : m_folder(folder), m_rules(rules), m_open(folder) {}
@@ -73,6 +81,7 @@ class Scan {
       fail(errno);
     else
       takeEntry(name.constData(), DT_UNKNOWN);
+    if (m_result.unseenError != 0) fail(m_result.unseenError);
     return std::move(m_result);
   }
 
@@ -80,6 +89,14 @@ class Scan {
   void fail(int error) {
     if (m_result.result.ok())
       m_result.result = IoResult::failure(error, fillPlaceholders(Reasons::klListing(), {m_folder.NativePath()}));
+  }
+
+  // A file that can't be told about may be due, and the others are not to wait for it. Where that befalls many, or the
+  // share itself has gone, the list is none.
+  void missOut(const char* name, int error) {
+    if (concernsShare(error) || ++m_unseen > kMostUnseen) return fail(error);
+    m_result.unseen = name;
+    m_result.unseenError = error;
   }
 
   bool takeEntries(const char* entries, ssize_t filled) {
@@ -110,8 +127,7 @@ class Scan {
     struct stat info {};
     if (::fstatat(m_open.fd(), name, &info, 0) != 0) {
       const int error = errno;
-      // A file that a share fails to tell about may be due: the caller must not take the list for whole.
-      if (!concernsFileAlone(error)) return fail(error);
+      if (!concernsFileAlone(error)) return missOut(name, error);
       return leaveOut(name, error == EACCES ? LeftOut::Unreadable : LeftOut::NotPlainFile);
     }
     if (!S_ISREG(info.st_mode)) return leaveOut(name, LeftOut::NotPlainFile);
@@ -126,6 +142,7 @@ class Scan {
   const FolderScanRules& m_rules;
   OpenFolder m_open;
   FolderScanResult m_result;
+  int m_unseen = 0;
 };
 
 }  // namespace

@@ -18,6 +18,8 @@ struct ScannedFile {
 struct FolderScanResult {
   IoResult result;                 ///< why the folder could not be listed to its end; the files are then incomplete
   std::vector<ScannedFile> files;  ///< in order of their names (case-insensitive, ties by exact bytes)
+  QByteArray unseen;               ///< a file that could not be looked at, so that nothing is known of it; may be empty
+  int unseenError = 0;             ///< why
 };
 
 /// Why the scan left an entry out, beside its name.

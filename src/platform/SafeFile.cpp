@@ -7,8 +7,11 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstdlib>
 #include <map>
+#include <optional>
+#include <thread>
 
 #include "platform/FolderCall.h"
 #include "platform/HiddenName.h"
@@ -233,6 +236,15 @@ std::optional<FileVersion> versionOf(const FolderItem& file) {
   return versionFrom(info);
 }
 
+std::optional<FileVersion> versionAtServer(const FolderItem& file) {
+  const FolderCall call;
+  struct statx info {};
+  if (::statx(AT_FDCWD, file.bytes().constData(), AT_STATX_FORCE_SYNC, STATX_BASIC_STATS, &info) != 0) return {};
+  if (!S_ISREG(info.stx_mode)) return {};
+  return FileVersion{static_cast<qint64>(info.stx_size),
+                     qint64{info.stx_mtime.tv_sec} * 1'000'000'000 + info.stx_mtime.tv_nsec};
+}
+
 bool isGone(const FolderItem& file) {
   const FolderCall call;
   struct stat info {};
@@ -310,15 +322,27 @@ struct SafeCopy::Steps {
   HiddenFile copy;
 };
 
+/// Waits for another process that holds a lease on the file, as a file server does for its clients: it is asked to give
+/// it up, and mostly does at once. False with errno.
+static bool openPatiently(std::optional<Descriptor>& opened, FileOps& ops, const QByteArray& path) {
+  for (int tries = 0; tries < 20; ++tries) {
+    opened.emplace(ops, path, kOpenToRead);
+    if (opened->isOpen() || errno != EAGAIN) break;
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    errno = EAGAIN;
+  }
+  return opened->isOpen();
+}
+
 SafeCopy::SafeCopy(const FolderItem& source, const FileVersion& version, const FolderItem& folder, FileOps& ops)
     : m_ops(ops),
       m_folder(folder),
       m_doing(fillPlaceholders(Reasons::klCopying(), {source.NativePath(), folder.NativePath()})) {
-  const Descriptor from(ops, source.bytes(), kOpenToRead);
+  std::optional<Descriptor> from;
   struct stat info {};
-  if (!from.isOpen()) {
+  if (!openPatiently(from, ops, source.bytes())) {
     fail(errno);
-  } else if (const int error = stillIn(version, from.fd(), info)) {
+  } else if (const int error = stillIn(version, from->fd(), info)) {
     fail(error);
   } else {
     m_steps = std::make_unique<Steps>(ops, folder);
@@ -326,7 +350,7 @@ SafeCopy::SafeCopy(const FolderItem& source, const FileVersion& version, const F
       fail(m_steps->folder.openError());
     else if (m_steps->copy.error())
       fail(m_steps->copy.error());
-    else if (const int unfilled = fillCopy(ops, from.fd(), m_steps->copy, version))
+    else if (const int unfilled = fillCopy(ops, from->fd(), m_steps->copy, version))
       fail(unfilled);
   }
 }

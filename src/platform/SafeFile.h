@@ -21,6 +21,8 @@ struct FileVersion {
 
 /// The present version of a plain file (links followed); nothing if it is gone or not a plain file.
 [[nodiscard]] std::optional<FileVersion> versionOf(const FolderItem& file);
+/// The same, as the file's server has it now: a share may remember for a minute what it looked at.
+[[nodiscard]] std::optional<FileVersion> versionAtServer(const FolderItem& file);
 
 /// True if no plain file stands under that name; false also where that can't be told, as on a share that fails.
 [[nodiscard]] bool isGone(const FolderItem& file);

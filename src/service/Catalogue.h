@@ -24,7 +24,8 @@ class Catalogue {
   [[nodiscard]] bool everFetched() const { return m_everFetched; }
   /// Empties the list as if it had never been fetched.
   void forget() {
-    setRecords({});
+    const QMutexLocker lock(&m_mutex);
+    m_records.clear();
     m_everFetched = false;
   }
 
@@ -41,8 +42,9 @@ class Catalogue {
     for (const QVariant& value : reply->Values()) {
       if (value.canConvert<JSONItem>()) fetched.append(Record(VantryUtil::JSONtoDictionary(value.value<JSONItem>())));
     }
+    const QMutexLocker lock(&m_mutex);  // another login forgets the list behind this, or is seen
     if (VantryUtil::account().loginNumber != login) return false;
-    setRecords(fetched);
+    m_records = fetched;
     m_everFetched = true;
     return true;
   }

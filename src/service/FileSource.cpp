@@ -79,6 +79,8 @@ bool FileSource::stillTheSame() const {
   const FolderCall call;
   struct stat open {};
   struct stat named {};
+  // First, so that what follows is no older either.
+  if (versionAtServer(m_file) != m_version) return false;
   return fstat(m_descriptor, &open) == 0 && versionFrom(open) == m_version &&
          stat(m_file.bytes().constData(), &named) == 0 && named.st_dev == m_device && named.st_ino == m_inode &&
          versionFrom(named) == m_version;
