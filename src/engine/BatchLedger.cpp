@@ -61,8 +61,12 @@ void BatchLedger::takeLimit(double dateLimit) {
 BatchLedger::Judgement BatchLedger::judgeVersion(const ScannedFile& file, const Date& began, qint64 monotonicMs) const {
   const Fingerprint print = fingerprint(file);
   if (m_dealtWith.contains(print)) return {Verdict::DealtWith, print, {}};
+  // A date far ahead of us that the limit has passed: our clock was set far back, and the file is as old as it was.
+  const double date = secondsOf(file.version.mtimeNs);
+  if (date > began.TotalSeconds() + WindowSeconds && date <= m_limit - WindowSeconds)
+    return {Verdict::Older, print, {}};
   // Without a memory the limit is all that an earlier run left us.
-  if (!m_hasMemory && secondsOf(file.version.mtimeNs) <= m_limit) return {Verdict::Older, print, {}};
+  if (!m_hasMemory && date <= m_limit) return {Verdict::Older, print, {}};
   const Rest found = rest(file, began, monotonicMs);
   return {found.longEnough ? Verdict::Due : Verdict::StillMoving, print, found};
 }

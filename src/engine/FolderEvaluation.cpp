@@ -81,12 +81,13 @@ void UploaderTask::noteClockSetBack(const Date& now) const {
 
 void UploaderTask::getDateLimit() {
   const DueLimit stored = dueLimit(Name);
+  const std::lock_guard lock(m_ledgerMutex);
   dateLimit = stored.seconds;
   m_clearings = stored.clearings;
 }
 
-FolderScanResult UploaderTask::listInputFolder(double above) {
-  bool tooCostly = false;
+FolderScanResult UploaderTask::listInputFolder(double above, bool& tooCostly) {
+  tooCostly = false;
   const auto keptOut = [&](QByteArrayView name, Verdict why) {
     if (why != Verdict::ExclusionTooCostly) return;
     tooCostly = true;
@@ -101,7 +102,9 @@ QList<FolderItem> UploaderTask::EvaluateInputFolder() {
   getDateLimit();
   QList<FolderItem> due;
   if (!inputFolder || !inputFolder->Exists()) return due;
-  for (const ScannedFile& scanned : listInputFolder(dateLimit).files) due.append(inputFolder->ChildBytes(scanned.name));
+  bool tooCostly = false;
+  for (const ScannedFile& scanned : listInputFolder(dateLimit, tooCostly).files)
+    due.append(inputFolder->ChildBytes(scanned.name));
   return due;
 }
 
@@ -115,7 +118,8 @@ UploaderTask::FolderLook UploaderTask::lookAtInputFolder() {
     return look;
   }
   noteClockSetBack(look.began);
-  FolderScanResult listing = listInputFolder(dueCutoff(Name, inputFolderPath, dateLimit, look.began));
+  bool tooCostly = false;
+  FolderScanResult listing = listInputFolder(dueCutoff(Name, inputFolderPath, dateLimit, look.began), tooCostly);
   // The bare folder under a share that went away would pass for an empty one.
   if (listing.result.ok() && !inputIsThere()) listing.result = IoResult::failure(ENOTCONN, inputFolder->NativePath());
   look.result = listing.result;
@@ -125,6 +129,9 @@ UploaderTask::FolderLook UploaderTask::lookAtInputFolder() {
     return look;
   }
   Problems::clear(Problem::Kind::InputFolderUnreadable, Name);
+  look.partial = tooCostly || !listing.unseen.isEmpty();
+  if (!listing.unseen.isEmpty())
+    tellThatItWaits(listing.unseen, IoResult::failure(listing.unseenError, inputFolder->NativePath()).message());
   const std::lock_guard lock(m_ledgerMutex);
   // An empty memory, and not none: a limit that another folder's task has set since tells nothing of this one's files.
   if (m_ledgerClearings != *m_clearings) m_ledger = ledgerFrom(u""_s);
@@ -132,7 +139,7 @@ UploaderTask::FolderLook UploaderTask::lookAtInputFolder() {
   takeOverStored(dateLimit);
   look.files = readLedger().look(listing.files, dateLimit, look.began, clock.monotonicMs());
   const auto stillWaits = [this](const ScannedFile& found) { return found.name == m_waitsFor; };
-  if (std::none_of(look.files.due.begin(), look.files.due.end(), stillWaits) &&
+  if (listing.unseen.isEmpty() && std::none_of(look.files.due.begin(), look.files.due.end(), stillWaits) &&
       std::none_of(look.files.waiting.begin(), look.files.waiting.end(), stillWaits))
     Problems::clear(Problem::Kind::FileWaits, Name);
   return look;
@@ -172,12 +179,12 @@ void UploaderTask::foundMoving(const ScannedFile& scanned) {
   readLedger().foundMoving(scanned, engineClock().monotonicMs());
 }
 
-void UploaderTask::tellThatItWaits(const ScannedFile& scanned, const QString& reason) {
+void UploaderTask::tellThatItWaits(const QByteArray& name, const QString& reason) {
   {
     const std::lock_guard lock(m_ledgerMutex);
-    m_waitsFor = scanned.name;
+    m_waitsFor = name;
   }
-  Problems::raise(Problem::Kind::FileWaits, Name, QString::fromUtf8(scanned.name) + u": "_s + reason);
+  Problems::raise(Problem::Kind::FileWaits, Name, QString::fromUtf8(name) + u": "_s + reason);
 }
 
 void UploaderTask::closeBatch(const Date& began) {
@@ -198,6 +205,11 @@ Verdict UploaderTask::judgeVersion(const ScannedFile& scanned, double limit) con
 }
 
 void UploaderTask::keepLedger() { storeLedger(std::nullopt); }
+
+void UploaderTask::keepLedgersUnderWay() {
+  for (const TaskPointer& task : allTasks())
+    if (task->Busy) task->keepLedger();
+}
 
 void UploaderTask::storeLedger(std::optional<double> limit) {
   if (!VantryUtil::prefs) return;

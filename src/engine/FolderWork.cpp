@@ -83,6 +83,7 @@ void work() {
       lock.unlock();
       tellLateFailure(job, tell);
       UploaderTask::workEnded(job->task);
+      job->task->batchHangs = false;
       job->task->leftBehind = false;
       lock.lock();
     }
@@ -120,6 +121,7 @@ bool FolderWork::run(const TaskPointer& task, Kind kind, std::function<void()> w
   while (!c.changed.wait_for(lock, 100ms, [&] { return job->ended; })) {
     if (heldUpMs(*task) < limit) continue;
     job->leftBehind = true;
+    task->batchHangs = kind == Kind::Batch;
     task->leftBehind = true;
     c.lostTime = true;
     Problems::raise(Problem::Kind::FolderSilent, task->Name, {});

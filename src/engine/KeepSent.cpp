@@ -15,7 +15,7 @@ namespace {
 
 class Keeping {
  public:
-  Keeping(const UploaderTask& task, const SentFile& sent) : m_task(task), m_sent(sent) { startCopy(); }
+  Keeping(const UploaderTask& task, SentFile& sent) : m_task(task), m_sent(sent) { startCopy(); }
 
   [[nodiscard]] SafeCopy* copy() const { return m_copy.get(); }
   void place();
@@ -34,7 +34,7 @@ class Keeping {
   bool tellCopy();
 
   const UploaderTask& m_task;
-  const SentFile& m_sent;
+  SentFile& m_sent;
   std::optional<FolderItem> m_wanted;  // the copy's place, if it is free; none where no folder takes one
   std::unique_ptr<SafeCopy> m_copy;    // none where the share has gone on which it should lie
   std::optional<FolderItem> m_target;
@@ -57,7 +57,8 @@ void Keeping::place() {
     FolderItem target = *m_wanted;
     UploaderTask::DistinctName(target);
     m_target = target;
-    if (m_copy->place(target) || m_copy->state().error != EEXIST) return;  // else somebody took the name in between
+    if (m_copy->place(target)) m_sent.copy = target;
+    if (m_sent.copy || m_copy->state().error != EEXIST) return;  // else somebody took the name in between
   }
 }
 
@@ -113,7 +114,7 @@ void Keeping::finishGood() {
 }
 
 void Keeping::deleteInput(const QString& notes) {
-  const auto version = versionOf(m_sent.file);
+  const auto version = versionAtServer(m_sent.file);
   if (version && version != m_sent.scanned.version) return;  // a newer one took its place, and is due by itself
   IoResult deleted;
   if (version)
@@ -144,11 +145,11 @@ void Keeping::finishRefused() {
 
 }  // namespace
 
-std::vector<VantryUtil::LogEntry> keepSent(const UploaderTask& task, const std::vector<SentFile>& sent) {
+std::vector<VantryUtil::LogEntry> keepSent(const UploaderTask& task, std::vector<SentFile>& sent) {
   std::vector<Keeping> group;
   group.reserve(sent.size());
   std::vector<SafeCopy*> copies;
-  for (const SentFile& file : sent)
+  for (SentFile& file : sent)
     if (SafeCopy* const copy = group.emplace_back(task, file).copy()) copies.push_back(copy);
   for (SafeCopy* const copy : copies) copy->sync();
   for (Keeping& keeping : group) keeping.place();

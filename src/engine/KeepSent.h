@@ -19,8 +19,9 @@ struct SentFile {
   QString error;      ///< as the service or the exchange named it
   QString detail;     ///< " - " and the words of a service code
   QString transport;  ///< how the exchange failed, for the window
+  std::optional<FolderItem> copy;  ///< as keepSent() has placed it
 };
 
 /// Copies and deletes, and gives the log rows to write. What is a case for the foot strip is told there. Blocks for
 /// the disk.
-[[nodiscard]] std::vector<VantryUtil::LogEntry> keepSent(const UploaderTask& task, const std::vector<SentFile>& sent);
+[[nodiscard]] std::vector<VantryUtil::LogEntry> keepSent(const UploaderTask& task, std::vector<SentFile>& sent);

@@ -84,6 +84,7 @@ class Batch {
   std::atomic<bool> m_outputLost{false};
   SpareConnection m_spare;
   std::atomic<bool> m_dealtWith{false};  // with any file
+  bool m_copiesComeBack = false;         // the output folder is the input folder, by another path
   // Ends before what it uses.
   OrderedWork<SentFile> m_keeping{"upload-keep", [this](std::vector<SentFile>& sent) { keep(sent); }};
 };
@@ -91,6 +92,7 @@ class Batch {
 void Batch::sendAll() {
   UploaderTask::FolderLook look = m_task.lookAtInputFolder();
   if (look.files.due.empty()) return;
+  m_copiesComeBack = m_task.outputFolder && m_task.outputFolder->isSameAs(*m_task.inputFolder);
   Date limit = look.began;
   while (look.result.ok() && !look.files.due.empty()) {
     limit = look.began;
@@ -101,11 +103,13 @@ void Batch::sendAll() {
       }
     settle();
     if (m_task.leftBehind || m_outputLost) break;
-    if (!UploadThread::Enabled) break;  // what lands from here on is dated past this look, and waits for the next run
+    // What lands from here on is dated past this look. It waits for the next run, or for the task that took this one's
+    // place.
+    if (!UploadThread::Enabled || m_task.retired) break;
     look = m_task.lookAtInputFolder();
   }
   if (look.result.ok() && look.files.due.empty()) limit = look.began;
-  m_task.closeBatch(limit);
+  m_task.closeBatch(look.partial ? Date::fromTotalSeconds(m_task.dateLimit) : limit);
 }
 
 void Batch::settle() {
@@ -140,7 +144,12 @@ void Batch::keep(std::vector<SentFile>& sent) {
   const HeldUpCalls::Count counted(m_task.keepingCalls);
   const std::vector<VantryUtil::LogEntry> entries = keepSent(m_task, sent);
   if (!m_task.outputIsThere()) m_outputLost = true;
-  for (const SentFile& file : sent) m_task.dealtWith(file.scanned);
+  for (const SentFile& file : sent) {
+    // One that was away at its turn may come back as it was.
+    if (file.outcome != SentFile::Outcome::Gone) m_task.dealtWith(file.scanned);
+    if (!m_copiesComeBack || !file.copy) continue;
+    if (const auto version = versionOf(*file.copy)) m_task.dealtWith({file.copy->nameBytes(), *version});
+  }
   m_dealtWith = true;
   VantryUtil::LogEntry::writeAll(entries);
 }
@@ -169,8 +178,9 @@ Batch::Sent Batch::send(SentFile& file, bool anotherFollows) {
   if (!reply && watch.fileChanged) return versionOf(file.file) ? Sent::Moving : missing(file.file);
   if (!reply && watch.failure.phase == HttpFailure::Phase::Source) {
     if (!m_task.inputIsThere()) return Sent::FolderLost;
+    if (watch.failure.code == ENOENT) return missing(file.file);
     if (mayPass(watch.failure.code)) {
-      m_task.tellThatItWaits(file.scanned, watch.failure.detail);
+      m_task.tellThatItWaits(file.scanned.name, watch.failure.detail);
       return Sent::Moving;
     }
   }

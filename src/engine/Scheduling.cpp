@@ -167,15 +167,21 @@ void UploaderTask::updateAllStatus() {
       task->Status = Fault;
       continue;
     }
-    const auto status = std::make_shared<StatusValue>(Fault);
-    if (lookAt(task, [task, status] { *status = task->lookAtFolders(); })) task->Status = *status;
+    evaluate(task);
   }
+}
+
+void UploaderTask::evaluate(const TaskPointer& task) {
+  const auto status = std::make_shared<StatusValue>(Fault);
+  if (lookAt(task, [task, status] { *status = task->lookAtFolders(); })) task->Status = *status;
 }
 
 TaskPointer UploaderTask::getNextTaskWithFiles() {
   for (const TaskPointer& task : allTasks()) {
     if (UploadThread::stopping()) return nullptr;
-    if (task->Status == Fault || task->Busy || task->disabled || task->leftBehind) continue;
+    if (task->Busy || task->disabled || task->leftBehind) continue;
+    if (task->Status == NotEvaluated) evaluate(task);  // it came in the middle of the run
+    if (task->Status == Fault) continue;
     const auto count = std::make_shared<qint64>(0);
     if (!lookAt(task, [task, count] { *count = task->getFileCount(); })) continue;
     if (!std::exchange(task->m_lookFailure, {}).isEmpty()) Problems::clear(Problem::Kind::RunFailed, task->Name);

@@ -147,11 +147,17 @@ void run(bool fromStart) {
   System::nameThisThread("start-up");
   try {
     if (fromStart) sequence(w.events);
-    for (std::chrono::seconds pause = FirstRetry; waitForTurn(pause);) fetchWhatIsMissing();
   } catch (const std::exception& e) {
     if (w.events.failed) w.events.failed(QString::fromUtf8(e.what()));
     const std::lock_guard lock(w.mutex);
-    countAsEnded(w);
+    return countAsEnded(w);
+  }
+  for (std::chrono::seconds pause = FirstRetry; waitForTurn(pause);) {
+    try {
+      fetchWhatIsMissing();
+    } catch (const std::exception& e) {  // the files go on being sent; it is tried again
+      System::DebugLog(u"Vantry Uploader - asking the service: "_s + QString::fromUtf8(e.what()));
+    }
   }
 }
 

@@ -1,9 +1,11 @@
 // Task files: one enciphered dictionary each.
 
 #include <array>
+#include <cerrno>
 
 #include "engine/UploaderTask.h"
 #include "platform/Problems.h"
+#include "platform/Reasons.h"
 #include "storage/DictionaryFile.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -61,6 +63,9 @@ IoResult UploaderTask::open(const FolderItem& taskFile) {
   DictionaryFile dictionary;
   const IoResult result = dictionary.open(taskFile);
   if (!result.ok()) return result;
+  // Preferences may be absent; a task without a file has been removed.
+  if (!taskFile.Exists())
+    return IoResult::failure(ENOENT, fillPlaceholders(Reasons::klReading(), {taskFile.NativePath()}));
 
   for (const TextMember& member : textMembers) this->*member.field = dictionary.StringValue(QLatin1String(member.key));
   for (const FlagMember& member : flagMembers) this->*member.field = dictionary.BooleanValue(QLatin1String(member.key));

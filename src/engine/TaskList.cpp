@@ -72,6 +72,7 @@ TaskPointer takeOff(const TaskPointer& task) {
   if (found == list.end()) return nullptr;
   TaskPointer taken = *found;
   list.erase(found);
+  taken->retired = true;
   return taken;
 }
 }  // namespace

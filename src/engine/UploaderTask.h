@@ -67,6 +67,7 @@ class UploaderTask {
     IoResult result;  ///< a look that failed gives nothing due
     Date began;
     BatchLedger::Selection files;
+    bool partial = false;  ///< a file that may be due could not be judged: the limit must not pass it
   };
   /// Upload thread; blocks for the folder.
   [[nodiscard]] FolderLook lookAtInputFolder();
@@ -74,11 +75,13 @@ class UploaderTask {
   void dealtWith(const ScannedFile& scanned);
   void foundMoving(const ScannedFile& scanned);
   /// Raises Problem::FileWaits for a file that can't be read for the moment, until it no longer waits.
-  void tellThatItWaits(const ScannedFile& scanned, const QString& reason);
+  void tellThatItWaits(const QByteArray& name, const QString& reason);
   /// Ends a batch whose last good look began at `began`: stores the new date limit and the memory.
   void closeBatch(const Date& began);
   /// Ends a batch that was broken off: stores the memory beside the limit as it was.
   void keepLedger();
+  /// The same for all tasks whose batch is under way, which the program's end can't wait for. Any thread.
+  static void keepLedgersUnderWay();
   /// Due, StillMoving, DealtWith or Older for a file that passes the rules. Any thread; doesn't touch the disk.
   [[nodiscard]] Verdict judgeVersion(const ScannedFile& scanned, double limit) const;
 
@@ -170,7 +173,9 @@ class UploaderTask {
   std::atomic<bool> Busy{false};
   std::atomic<bool> disabled{false};
   std::atomic<qint64> UploadedCount{0};
+  std::atomic<bool> retired{false};       ///< removed or replaced: a batch under way takes no more files up
   std::atomic<bool> leftBehind{false};    ///< work at its folders hangs, see FolderWork
+  std::atomic<bool> batchHangs{false};    ///< and that work is a batch, which may have sent what it has yet to store
   HeldUpCalls folderCalls, keepingCalls;  ///< of the two threads that work at its folders
 
   // Of the upload thread.
@@ -181,6 +186,8 @@ class UploaderTask {
   /// Has `look` done at the task's folders. False, and status 3, if it hangs or throws; what it throws is recorded
   /// once, until a look at the input folder is good or it throws something else.
   [[nodiscard]] static bool lookAt(const TaskPointer& task, std::function<void()> look);
+  /// Sets the task's status by its folders.
+  static void evaluate(const TaskPointer& task);
   QString m_lookFailure;  ///< of the upload thread; as recorded last
   void buildExclusionRegEx();
   void copySettings(const UploaderTask& other);
@@ -188,7 +195,7 @@ class UploaderTask {
   [[nodiscard]] QByteArray mountsOfFolders() const;
   QString mExclusionPattern;
   std::optional<RegEx> exclusionRegEx;
-  [[nodiscard]] FolderScanResult listInputFolder(double above);
+  [[nodiscard]] FolderScanResult listInputFolder(double above, bool& tooCostly);
   /// Stores when it was first seen that the limit lies ahead of our clock.
   void noteClockSetBack(const Date& now) const;
   BatchLedger& readLedger();

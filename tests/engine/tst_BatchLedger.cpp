@@ -212,6 +212,20 @@ class tst_BatchLedger : public QObject {
     QCOMPARE(scene.sent, written);
   }
 
+  void aClockThatIsFarBehindForAWhileRepeatsNothing() {
+    Scene scene;
+    for (int i = 0; i < 1500; ++i)
+      scene.place("old" + QByteArray::number(i), 1, scene.clock.now().TotalSeconds() - 5000 - i);
+    scene.passes(1);
+    scene.clock.jump(-1e8);
+    scene.write("meanwhile");
+    scene.passes(3);
+    scene.clock.jump(1e8);
+    scene.write("behind it");
+    scene.passes(3);
+    QCOMPARE(scene.sent.size(), 1502);
+  }
+
   void theMemoryStaysSmall() {
     Scene scene;
     for (int i = 0; i < 1500; ++i)

@@ -418,6 +418,67 @@ class tst_Pipeline : public QObject {
     }
     QCOMPARE(bench.received(), (QStringList{u"a.txt"_s, u"b.txt"_s}));
   }
+
+  void whatComesBackGoesOutIfItIsNoCopy() {
+    EngineBench bench;
+    const QString away = bench.home.path(u"b.txt"_s), output = bench.home.path(u"the input again"_s);
+    QVERIFY(QFile::link(bench.home.path(u"in"_s), output));
+    bench.drop(u"a.txt"_s);
+    const QString there = bench.drop(u"b.txt"_s);
+    bench.service.whenBodyReaches(1, [&] { QFile::rename(there, away); });
+    const TaskPointer task = bench.makeTask();
+    task->outputFolderPath = output;
+    for (int i = 0; i < 4; ++i) {
+      EngineBench::process(*task);
+      if (i == 0) QVERIFY(QFile::rename(away, there));
+      bench.clock.advance(4);
+    }
+    QCOMPARE(bench.received(), (QStringList{u"a.txt"_s, u"b.txt"_s}));
+    QCOMPARE(bench.notes(), (QStringList{Saved, u"File not accessible"_s, Saved}));
+  }
+
+  void aTaskThatIsReplacedInMidBatchTakesNoNewFiles() {
+    EngineBench bench;
+    const TaskPointer old = bench.makeTask(), corrected = bench.makeTask();
+    corrected->Track = u"another"_s;
+    bench.drop(u"a.txt"_s);
+    UploaderTask::addTask(old);
+    bench.service.whenBodyReaches(1, [&] {
+      bench.clock.advance(70);
+      bench.drop(u"b.txt"_s);
+      (void)UploaderTask::replaceTask(old, corrected);
+    });
+    for (const TaskPointer& task : {old, corrected, corrected}) {
+      EngineBench::process(*task);
+      bench.clock.advance(4);
+    }
+    QCOMPARE(bench.log().size(), 2);
+    QCOMPARE(bench.log()[1][u"Track"_s], corrected->Track);
+  }
+
+  void aTaskThatComesInMidRunIsLookedAtFirst() {
+    EngineBench bench;
+    bench.drop(u"a.txt"_s);
+    const TaskPointer task = bench.makeTask();
+    task->outputFolderPath = bench.home.path(u"not there"_s);
+    UploaderTask::addTask(task);
+    QVERIFY(!UploaderTask::getNextTaskWithFiles());
+    QCOMPARE(task->Status.load(), UploaderTask::Fault);
+  }
+
+  void aFileThatCouldNotBeJudgedIsNotPassedByTheLimit() {
+    EngineBench bench;
+    const QString held = QString(60, u'a') + u"!.txt"_s;
+    bench.drop(held);
+    bench.drop(u"b.txt"_s);
+    for (const QString& pattern : {u"(a+)+$"_s, u""_s}) {
+      const TaskPointer task = bench.makeTask();
+      task->setExclusionPattern(pattern);
+      EngineBench::process(*task);
+      bench.clock.advance(2000);
+    }
+    QCOMPARE(bench.received(), (QStringList{u"b.txt"_s, held}));
+  }
 };
 
 VANTRY_TEST(tst_Pipeline);

@@ -156,6 +156,9 @@ class tst_TaskFiles : public QObject {
     QCOMPARE(names(), QStringList{u"edited"_s});
     UploaderTask::cleanUpDeletedTasks();
     QCOMPARE(files(), QStringList{u"e.vnt"_s});
+    QVERIFY(QFile::remove(taskFile(u"e.vnt"_s)));
+    QVERIFY(!UploaderTask::duplicateTask(UploaderTask::allTasks().first()));
+    QVERIFY(files().isEmpty());
   }
 };
 
