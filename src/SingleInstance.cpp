@@ -7,6 +7,7 @@
 using namespace Qt::Literals::StringLiterals;
 
 static constexpr int AnswerLimitMs = 2000;
+static constexpr int EndLimitMs = 8000;  // more than the program takes to end
 
 // A socket's path is short by nature (107 bytes), so the data folder stands in it as a hash.
 static QString socketPath(const FolderItem& dataFolder) {
@@ -22,17 +23,20 @@ SingleInstance::SingleInstance(const FolderItem& dataFolder)
   connect(&m_server, &QLocalServer::newConnection, this, &SingleInstance::answer);
 }
 
+bool SingleInstance::takePlace(int waitMs) {
+  if (!m_lock.tryLock(waitMs)) return false;
+  QLocalServer::removeServer(m_socketPath);
+  (void)m_server.listen(m_socketPath);  // without it a second start only says that the program runs
+  return true;
+}
+
 SingleInstance::Start SingleInstance::start() {
-  if (m_lock.tryLock(0)) {
-    QLocalServer::removeServer(m_socketPath);
-    (void)m_server.listen(m_socketPath);  // without it a second start only says that the program runs
-    return Start::First;
-  }
+  if (takePlace(0)) return Start::First;
   if (m_lock.error() != QLockFile::LockFailedError) return Start::Forbidden;
   QLocalSocket socket;
   socket.connectToServer(m_socketPath);
-  if (!socket.waitForConnected(AnswerLimitMs) || !socket.waitForReadyRead(AnswerLimitMs)) return Start::Silent;
-  return Start::HandedOver;
+  if (socket.waitForConnected(AnswerLimitMs) && socket.waitForReadyRead(AnswerLimitMs)) return Start::HandedOver;
+  return takePlace(EndLimitMs) ? Start::First : Start::Silent;
 }
 
 void SingleInstance::answer() {

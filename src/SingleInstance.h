@@ -21,8 +21,11 @@ class SingleInstance : public QObject {
     Silent,      ///< another one holds the data folder and doesn't answer
     Forbidden,   ///< the data folder can't be locked
   };
-  /// Takes the place of the first, or asks the first to show itself. Waits at most 2 s.
+  /// Takes the place of the first, or asks the first to show itself. Waits at most 2 s for its answer, and 8 s for one
+  /// that is about to end.
   [[nodiscard]] Start start();
+  /// Answers nobody any more: the program ends, and a start from now on is to wait for that.
+  void close() { m_server.close(); }
 
  signals:
   /// A second start asks for the window.
@@ -30,6 +33,8 @@ class SingleInstance : public QObject {
 
  private:
   void answer();
+  /// Takes the lock and listens; false while another one has it.
+  bool takePlace(int waitMs);
   QString m_socketPath;
   QLockFile m_lock;
   QLocalServer m_server;

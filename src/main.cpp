@@ -82,17 +82,19 @@ int main(int argc, char** argv) {
   });
   const EndSignals signalsEnd([&window] { window.quitWithoutAsking(); });
   QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
-                   [&window](QSessionManager&) { window.quitWithoutAsking(); });
+                   [&window](QSessionManager&) { window.expectSessionEnd(); });
 
   const QString notice = App::Event_Open([&window] { window.show(); });
   if (!notice.isEmpty()) QTimer::singleShot(0, &window, [notice] { tell(notice); });
 
   const int exitCode = QApplication::exec();
+  instance.close();
   UploadThread::Enabled = false;
   delete SystemLogWindow::openOne();  // an export that is under way leaves nothing behind
   const bool startUpEnded = StartUp::stop(StopLimitMs);
   const bool uploadEnded = UploadThread::stop(StopLimitMs);
   const bool callsEnded = BackgroundCall::waitForAll(CallsLimitMs);
+  if (!uploadEnded) UploaderTask::keepLedgersUnderWay();  // a batch that can't be waited for must not go out again
   App::Event_Close();
   // A thread that hangs in the kernel on a dead share can't be waited for, and nothing may be torn down under it.
   if (!startUpEnded || !uploadEnded || !callsEnded) _exit(exitCode);

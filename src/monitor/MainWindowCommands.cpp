@@ -24,9 +24,6 @@ static constexpr int UpdateLimitMs = 30'000;
 static constexpr int LeftBehindLimitMs = 60'000;  // a dead share may never answer, and the other tasks have work
 static constexpr qsizetype LongestVersion = 100;
 
-/// True while a batch of the task hangs on after it was given up; a look that hangs does no harm to a new task.
-static bool batchLeftBehind(const TaskPointer& task) { return task->leftBehind.load() && task->Busy.load(); }
-
 static QString notInBuild(const QString& what) {
   return fillPlaceholders(VTULocalization::klWindowNotInBuild(), {what});
 }
@@ -41,7 +38,7 @@ void VTUploaderMainWIndow::EditButton_Action() {
   const TaskPointer task = selectedTask();
   if (!task) return;
   if (!m_commands.editTask) return say(notInBuild(MonitorText::klTaskEditor()));
-  if ((task->Busy.load() && task->disabled.load()) || batchLeftBehind(task))
+  if ((task->Busy.load() && task->disabled.load()) || task->batchHangs)
     return Messages::tell(this, VTULocalization::klTaskCurrentlyProcessing(), false);
   if (tasksAboutToChange()) return;
   const UploadHold hold;
@@ -90,7 +87,8 @@ void VTUploaderMainWIndow::showAdminWindow(AdminOutcome& outcome) {
 void VTUploaderMainWIndow::loadRestoredTasksWhenIdle() {
   if (!m_reloadHold || m_startPending || m_reload.running() || UploadThread::ProcessingNow()) return;
   const QList<TaskPointer> tasks = UploaderTask::allTasks();
-  if (!m_reloadLimit.hasExpired() && std::any_of(tasks.begin(), tasks.end(), batchLeftBehind)) return;
+  const auto hangs = [](const TaskPointer& task) { return task->batchHangs.load(); };
+  if (!m_reloadLimit.hasExpired() && std::any_of(tasks.begin(), tasks.end(), hangs)) return;
   m_reload.run<bool>(
       0,
       [load = m_commands.loadRestoredTasks](const auto&) {

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QPointer>
+#include <QTimer>
 
 #include "monitor/VTUploaderMainWIndow.h"
 #include "platform/Problems.h"
@@ -11,6 +12,8 @@
 #include "text/Placeholders.h"
 #include "text/VTULocalization.h"
 #include "widgets/Messages.h"
+
+static constexpr int SessionEndMs = 60'000;
 
 void VTUploaderMainWIndow::showEvent(QShowEvent* event) {
   QMainWindow::showEvent(event);
@@ -80,6 +83,11 @@ void VTUploaderMainWIndow::quitWithoutAsking() {
   m_quitting = true;
   finish();  // not close(): while its question is open, Qt takes that for done
   hide();
+}
+
+void VTUploaderMainWIndow::expectSessionEnd() {
+  m_quitting = true;
+  QTimer::singleShot(SessionEndMs, this, [this] { m_quitting = m_closed; });
 }
 
 bool VTUploaderMainWIndow::Event_CancelClose() {

@@ -51,6 +51,9 @@ class VTUploaderMainWIndow : public QMainWindow {
   void say(const QString& notice);
   /// Closes without the question, also while a message box is open; for the end of the session.
   void quitWithoutAsking();
+  /// For a minute the window closes without asking. The session may yet go on: another program may keep it, or it
+  /// only wants everything saved, and the work goes on meanwhile.
+  void expectSessionEnd();
 
  protected:
   void showEvent(QShowEvent* event) override;

@@ -72,7 +72,7 @@ class tst_MainWindow : public QObject {
     task->Busy = true;
     fixture.press("EditButton");
     QVERIFY(fixture.list()->selectionModel()->selectedRows().isEmpty());
-    for (std::atomic<bool>* const refusing : {&task->disabled, &task->leftBehind}) {
+    for (std::atomic<bool>* const refusing : {&task->disabled, &task->batchHangs}) {
       *refusing = true;
       fixture.select(0);
       const BoxAnswer ok(QMessageBox::Ok);
@@ -114,7 +114,7 @@ class tst_MainWindow : public QObject {
     tasks[0]->inputFolderPath = fixture.home.path(u"missing"_s);
     tasks[0]->AutoMountInputFolder = true;
     tasks[0]->inputfolderURL = u"smb://server/share"_s;
-    tasks[1]->Busy = tasks[1]->leftBehind = true;
+    tasks[1]->leftBehind = tasks[1]->batchHangs = true;
     tasks[1]->disabled = true;
     tasks[1]->UploadedCount = 7;
     UploaderTask::setMountOperation([&mounted](const MountRequest&, int&) { return mounted.acquire(), QString(); });
@@ -133,7 +133,7 @@ class tst_MainWindow : public QObject {
       QCOMPARE(UploaderTask::allTasks(), tasks);
       mounted.release();
     }
-    tasks[1]->leftBehind = false;
+    tasks[1]->leftBehind = tasks[1]->batchHangs = false;
     QTRY_VERIFY(loadings > 1);
     QVERIFY(!UploadThread::Enabled && Problems::present().last().kind == Problem::Kind::TaskFolderUnreadable);
     failing = false;
