@@ -57,7 +57,7 @@ class tst_Bounds : public QObject {
   }
 
   void everyCharacterComesBack() {
-    QString text;
+    QString text(2, QChar::ByteOrderMark);  // which decoders like to drop at a beginning
     for (char32_t c = 0; c < 0x20000; ++c)
       if (!QChar::isSurrogate(c)) text += QString::fromUcs4(&c, 1);
     JSONItem object = JSONItem::object();
