@@ -126,7 +126,7 @@ class tst_Bounds : public QObject {
         "32 22 0:42 / /auto/y rw - autofs systemd-1 rw\n"
         "33 32 0:43 / /auto/y rw - nfs4 server:/y rw\n",
         "#//server/n /mnt/no cifs\nUUID=1 / ext4 defaults 0 1\n//server/p\t/mnt/paper/ cifs noauto 0 0\n"
-        "//server/a /mnt/a\\040b cifs ro 0 0\nUUID=2 none swap sw 0 0\n");
+        "//server/a /mnt/a\\040b cifs ro 0 0\n//server/c /mnt/c\\+12\\7 cifs ro 0 0\nUUID=2 none swap sw 0 0\n");
     // The path, where it was mounted at the last look, and what is missing.
     const std::array<QByteArray, 3> rows[] = {{"/mnt/a b/in", "/mnt/a b", ""},
                                               {"/srv/in", "", ""},
@@ -136,6 +136,7 @@ class tst_Bounds : public QObject {
                                               {"/mnt/no/in", "", ""},
                                               {"/mnt/paper", "", "/mnt/paper"},  // in the administrator's table
                                               {"/auto/x/in", "/auto/x", "/auto/x"},
+                                              {"/mnt/c\\+12\\7/in", "", "/mnt/c\\+12\\7"},  // nothing is escaped there
                                               {"/auto/y/in", "/auto/y", ""},
                                               {"/srv/other", "/mnt/a b", ""}};
     for (const auto& [path, remembered, missing] : rows) QCOMPARE(table.missingFor(path, remembered), missing);
