@@ -59,6 +59,11 @@ void JSONItem::append(const JSONItem& value) {
   m_members.emplace_back(QString(), value);
 }
 
+void JSONItem::add(const QString& name, const JSONItem& value) {
+  Q_ASSERT(m_kind == Kind::Object);
+  m_members.emplace_back(name, value);
+}
+
 void JSONItem::set(const QString& name, const JSONItem& value) {
   Q_ASSERT(m_kind == Kind::Object);
   const auto member =

@@ -37,6 +37,7 @@ class JSONItem {
   [[nodiscard]] bool toBoolean() const { return m_boolean; }
 
   void append(const JSONItem& value);                    ///< to an array
+  void add(const QString& name, const JSONItem& value);  ///< to an object that has no member of that name
   void set(const QString& name, const JSONItem& value);  ///< in an object; a name that is there keeps its place
 
   /// Compact JSON text in UTF-8. In strings the backslash, the double quote and the slash get a backslash, control

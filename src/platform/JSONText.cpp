@@ -1,4 +1,5 @@
 #include <QHash>
+#include <QStringDecoder>
 #include <charconv>
 #include <cmath>
 #include <nlohmann/json.hpp>
@@ -59,7 +60,10 @@ class JSONItem::Builder : public nlohmann::json::json_sax_t {
   };
 
   static QString utf16(const string_t& text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    const QByteArrayView bytes(text.data(), static_cast<qsizetype>(text.size()));
+    if (!bytes.startsWith("\xef\xbb\xbf")) return QString::fromUtf8(bytes);
+    // A mark at the beginning is a character of the value, which a plain conversion drops.
+    return QStringDecoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom).decode(bytes);
   }
 
   bool refuse(const QString& reason) {

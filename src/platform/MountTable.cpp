@@ -13,9 +13,9 @@ using namespace Qt::Literals::StringLiterals;
 static QByteArray unescaped(const QByteArray& field) {
   QByteArray text;
   for (qsizetype i = 0; i < field.size(); ++i) {
-    bool octal = false;
-    const int code = field[i] == '\\' ? field.mid(i + 1, 3).toInt(&octal, 8) : 0;
-    text += octal ? static_cast<char>(code) : field[i];
+    const QByteArray digits = field[i] == '\\' ? field.mid(i + 1, 3) : QByteArray();
+    const bool octal = digits.size() == 3 && std::ranges::all_of(digits, [](char c) { return c >= '0' && c <= '7'; });
+    text += octal ? static_cast<char>(digits.toInt(nullptr, 8)) : field[i];
     if (octal) i += 3;
   }
   return text;

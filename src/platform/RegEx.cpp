@@ -13,7 +13,7 @@ struct Effort {
   int perPlace, inAll;
 };
 constexpr Effort kUsual{31, 8000};
-constexpr Effort kWithBackReferences{5, 1300};  // each compares a piece of the name
+constexpr Effort kWithLongSteps{5, 1300};       // each goes over a piece of the name
 constexpr int kPerPlaceAlone = 160;             // of a pattern that can't be searched the second way
 constexpr int kDepth = 4000;
 
@@ -32,9 +32,10 @@ bool dependsOnWholePattern(const QString& pattern) {
   return false;
 }
 
-bool hasBackReferences(const QString& pattern) {
-  static const QRegularExpression reference(u"\\\\[1-9gk]|\\(\\?P="_s);
-  return reference.match(pattern).hasMatch();
+// Back references, characters with their marks, and single units, for which nothing is compiled.
+bool hasLongSteps(const QString& pattern) {
+  static const QRegularExpression longStep(u"\\\\[1-9gkXC]|\\(\\?P="_s);
+  return longStep.match(pattern).hasMatch();
 }
 
 // The \E ends a quotation that the pattern left open; the line end ends a comment in it.
@@ -48,7 +49,7 @@ QRegularExpression withPlacesInside(const QString& pattern, int effort) {
 }  // namespace
 
 RegEx::RegEx(const QString& pattern) : m_patternLength(pattern.size()) {
-  const Effort effort = hasBackReferences(pattern) ? kWithBackReferences : kUsual;
+  const Effort effort = hasLongSteps(pattern) ? kWithLongSteps : kUsual;
   m_perPlace = compiled(limits(effort.perPlace) + pattern);
   if (!m_perPlace.isValid()) return;
   if (!dependsOnWholePattern(pattern)) m_inAll = withPlacesInside(pattern, effort.inAll);

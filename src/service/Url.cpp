@@ -5,7 +5,7 @@
 using namespace Qt::Literals::StringLiterals;
 
 QString hostAndPort(const QString& host, int port) {
-  return (host.contains(u':') ? u"[%1]:%2"_s : u"%1:%2"_s).arg(host).arg(port);
+  return (host.contains(u':') ? u"[%1]:%2"_s : u"%1:%2"_s).arg(host, QString::number(port));
 }
 
 QString Url::authority() const { return hostAndPort(host, port); }

@@ -5,6 +5,38 @@
 using namespace Qt::Literals::StringLiterals;
 
 static constexpr size_t MaxDepth = 256;  // also bounds the recursion of getReturnFromNode
+// A node may take forty times the memory of its text, and the reader compares each attribute of an element with all.
+static constexpr size_t MaxNodes = 100'000;
+static constexpr int MaxAttributes = 1000;
+static constexpr qsizetype MaxWideBytes = 256 << 10;
+
+/// Where a piece of a document ends that opens and closes with these; past the end if it doesn't close.
+static qsizetype endOf(const QByteArray& text, qsizetype at, QByteArrayView opening, QByteArrayView closing) {
+  const qsizetype end = text.indexOf(closing, at + opening.size());
+  return end < 0 ? text.size() : end + closing.size();
+}
+
+/// False for a document type, and for an element with so many attributes that reading it could take hours.
+static bool isReadable(const QByteArray& text) {
+  if (text.contains('\0')) return text.size() <= MaxWideBytes;  // UTF-16 and the like, which can't be looked through
+  for (qsizetype at = text.indexOf('<'); at >= 0 && at < text.size(); at = text.indexOf('<', at)) {
+    const QByteArrayView here = QByteArrayView(text).sliced(at);
+    const auto skip = [&](QByteArrayView opening, QByteArrayView closing) {
+      if (!here.startsWith(opening)) return false;
+      at = endOf(text, at, opening, closing);
+      return true;
+    };
+    if (skip("<!--", "-->") || skip("<![CDATA[", "]]>") || skip("<?", "?>")) continue;
+    if (here.startsWith("<!")) return false;
+    char quote = 0;
+    for (int attributes = 0; at < text.size() && (quote || text[at] != '>'); ++at) {
+      const char c = text[at];
+      if (quote ? c == quote : (c == '"' || c == '\'')) quote = quote ? '\0' : c;
+      if (!quote && c == '=' && ++attributes > MaxAttributes) return false;
+    }
+  }
+  return true;
+}
 
 int XmlDocument::append(int parent, const QString& name, const QString& value) {
   const int index = static_cast<int>(m_nodes.size());
@@ -14,6 +46,7 @@ int XmlDocument::append(int parent, const QString& name, const QString& value) {
 }
 
 std::optional<XmlDocument> XmlDocument::parse(const QByteArray& text) {
+  if (!isReadable(text)) return std::nullopt;
   XmlDocument document;
   std::vector<int> open{document.append(-1, u"#document"_s, {})};
   QString pendingText;
@@ -27,7 +60,7 @@ std::optional<XmlDocument> XmlDocument::parse(const QByteArray& text) {
     switch (reader.readNext()) {
       case QXmlStreamReader::StartElement:
         flushText();
-        if (open.size() > MaxDepth) return std::nullopt;
+        if (open.size() > MaxDepth || document.m_nodes.size() > MaxNodes) return std::nullopt;
         open.push_back(document.append(open.back(), reader.qualifiedName().toString(), {}));
         break;
       case QXmlStreamReader::EndElement:

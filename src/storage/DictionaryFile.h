@@ -47,7 +47,8 @@ class DictionaryFile {
   [[nodiscard]] QStringList Keys() const;
 
   /// Writes the location safely (see writeFileSafely). False without a location, over a file that could not be read,
-  /// or when the disk refuses; the old file then stands as it was, and lastFailure() tells why.
+  /// for more than DictionaryFormat::LargestFile (EFBIG), or when the disk refuses; the old file then stands as it was,
+  /// and lastFailure() tells why.
   [[nodiscard]] bool save();
   /// Makes `f` the location and saves.
   [[nodiscard]] bool save(const FolderItem& f);

@@ -94,7 +94,7 @@ namespace DictionaryFormat {
 
 QByteArray write(const Dictionary& dictionary, const QString& key) {
   JSONItem object = JSONItem::object();
-  for (const QString& name : dictionary.Keys()) object.set(name, toItem(dictionary.Value(name)));
+  for (const QString& name : dictionary.Keys()) object.add(name, toItem(dictionary.Value(name)));
   QByteArray json = object.ToString();
   if (key.isEmpty()) return json;
   FileCipher cipher;

@@ -57,7 +57,7 @@ class tst_Bounds : public QObject {
   }
 
   void everyCharacterComesBack() {
-    QString text;
+    QString text(2, QChar::ByteOrderMark);  // which decoders like to drop at a beginning
     for (char32_t c = 0; c < 0x20000; ++c)
       if (!QChar::isSurrogate(c)) text += QString::fromUcs4(&c, 1);
     JSONItem object = JSONItem::object();
@@ -87,14 +87,15 @@ class tst_Bounds : public QObject {
     }
   }
 
-  // A search that gives up must never look like "no match", and must give up soon: without a bound these take from
+  // A search that gives up must never look like "no match", and must give up soon: without a bound most take from
   // 40 ms to years.
   void costlyPatternsAreGivenUp() {
     const QString name = QString(254, u'a') + u'!', brackets = u'(' + QString(200, u'a') + u"(b)"_s;
     QCOMPARE(RegEx(u"(*LIMIT_MATCH=4000000000)(a+)+$"_s).Search(name).outcome, Outcome::TooCostly);
     QCOMPARE(RegEx(u"\\((?:(?:a|b)|(?R))*\\)"_s).Search(brackets).outcome, Outcome::TooCostly);
-    for (const QString& pattern : {u"(a+)+$"_s, u"(a|aa)+$"_s, u"[a-z]*[a-z]*[a-z]*[a-z]*[0-9]"_s,
-                                   u"[a-f]{0,30}[a-f]{0,30}[a-f]{0,9}[0-9]"_s, u"(a*)\\1\\1b?[0-9]"_s}) {
+    for (const QString& pattern :
+         {u"(a+)+$"_s, u"(a|aa)+$"_s, u"[a-z]*[a-z]*[a-z]*[a-z]*[0-9]"_s, u"[a-f]{0,30}[a-f]{0,30}[a-f]{0,9}[0-9]"_s,
+          u"(a*)\\1\\1b?[0-9]"_s, u"\\w{1,9}\\X++\\X"_s}) {
       const RegEx expression(pattern);
       qint64 bestNs = std::numeric_limits<qint64>::max();
       for (int i = 0; i < 5; ++i) {
@@ -126,7 +127,7 @@ class tst_Bounds : public QObject {
         "32 22 0:42 / /auto/y rw - autofs systemd-1 rw\n"
         "33 32 0:43 / /auto/y rw - nfs4 server:/y rw\n",
         "#//server/n /mnt/no cifs\nUUID=1 / ext4 defaults 0 1\n//server/p\t/mnt/paper/ cifs noauto 0 0\n"
-        "//server/a /mnt/a\\040b cifs ro 0 0\nUUID=2 none swap sw 0 0\n");
+        "//server/a /mnt/a\\040b cifs ro 0 0\n//server/c /mnt/c\\+12\\7 cifs ro 0 0\nUUID=2 none swap sw 0 0\n");
     // The path, where it was mounted at the last look, and what is missing.
     const std::array<QByteArray, 3> rows[] = {{"/mnt/a b/in", "/mnt/a b", ""},
                                               {"/srv/in", "", ""},
@@ -135,6 +136,7 @@ class tst_Bounds : public QObject {
                                               {"/mnt/a b/in", "/mnt", ""},        // another mount came on top
                                               {"/mnt/no/in", "", ""},
                                               {"/mnt/paper", "", "/mnt/paper"},  // in the administrator's table
+                                              {"/mnt/c\\+12\\7/in", "", "/mnt/c\\+12\\7"},  // nothing is escaped there
                                               {"/auto/x/in", "/auto/x", "/auto/x"},
                                               {"/auto/y/in", "/auto/y", ""},
                                               {"/srv/other", "/mnt/a b", ""}};

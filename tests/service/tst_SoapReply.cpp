@@ -66,6 +66,28 @@ class tst_SoapReply : public QObject {
     for (const char* nothing : {"", " \r\n\t"}) QCOMPARE(outcome(nothing, {notXml, u"Soap Error"_s}), unread);
   }
 
+  // What would take gigabytes or hours to read is refused at once; as long a text is not.
+  void replyOfBoundedEffort() {
+    const auto many = [](int count, const QByteArray& piece) {
+      return "<a><return>OK</return>" + piece.repeated(count);
+    };
+    QByteArray attributes;
+    for (int i = 0; i < 20'000; ++i) attributes += " a" + QByteArray::number(i) + "='>'";
+    QByteArray wide = "\xff\xfe";
+    for (const char c : many(1, "<b" + attributes + "/>") + "</a>") wide += QByteArray(1, c) + '\0';
+    const QString unread = u"nil, as it was"_s;
+    const std::pair<QByteArray, QString> rows[] = {
+        {many(200'000, "<b/>") + "</a>", unread},
+        {many(20'000, "<b/>") + "</a>", u"M=OK"_s},
+        {many(1, "<b" + attributes + "/>") + "</a>", unread},
+        {"<!-- <b -->" + many(1, "<b" + attributes + "/>") + "</a>", unread},
+        {wide, unread},
+        {many(1, "<![CDATA[<b" + attributes + "/>]]><!--" + attributes + "--><?p" + attributes + "?>") + "</a>",
+         u"M=OK"_s},
+        {many(1, "<b c=\"" + QByteArray("=").repeated(5000) + "\"/>") + "</a>", u"M=OK"_s}};
+    for (const auto& [bytes, expected] : rows) QCOMPARE(outcome(bytes, {std::nullopt, u"err"_s}), expected);
+  }
+
   void aSuccessIsOnlyBelievedFromAWholeExchangeWithTheService() {
     // The goodbye may be missing behind a whole page; a proxy, half a request or half a file never succeed.
     for (const Phase phase : {Phase::None, Phase::Reply, Phase::Proxy, Phase::Request, Phase::Source}) {

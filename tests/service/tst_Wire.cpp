@@ -62,6 +62,7 @@ class tst_Wire : public QObject {
     for (const char* text : {"https://a/api\r\nX-Evil: 1", "https://a/my api", "https://user:secret@a/", "https://a:0/",
                              "https://a:65536/", "https:///api", "", "https://[::1/api"})
       QVERIFY2(!Url::parse(QString::fromLatin1(text), 443), text);
+    QCOMPARE(hostAndPort(u"fe80::1%1"_s, 443), u"[fe80::1%1]:443"_s);  // of the first network card
   }
 
   void namesAreAskedForOnceAndInAscii() {

@@ -101,6 +101,14 @@ class tst_DictionaryFile : public QObject {
              "9007199254740993 1 9007199254740993 9.0072e+15|True 1 0 0|80 or so 0 0 0| 0 0 0| 0 0 0|"_s);
   }
 
+  // Ends within the test's time only if each key costs the same, however many came before.
+  void manyKeysAreWrittenInLinearTime() {
+    Dictionary many, read;
+    for (int i = 0; i < 200'000; ++i) many.setValue(u"key"_s + QString::number(i), i);
+    QVERIFY(DictionaryFormat::read(DictionaryFormat::write(many, Key), Key, read).ok());
+    QCOMPARE(read.Keys(), many.Keys());
+  }
+
   void whatIsNoDictionaryIsRefusedAndKept() {
     const TemporaryHome home;
     const auto nativePath = [&home](const QString& name) { return home.item(name).bytes(); };
@@ -161,6 +169,9 @@ class tst_DictionaryFile : public QObject {
     QVERIFY(file.save(second));
     file.setStringValue(u"Name"_s, u"two"_s);
     QVERIFY(file.save() && !first.Exists());
+    file.setStringValue(u"Name"_s, QString(DictionaryFormat::LargestFile * 3 / 4, u'x'));  // enciphered a third longer
+    QVERIFY(!file.save());
+    QCOMPARE(file.lastFailure().error, EFBIG);
     ops.bytesUntilFull = 70;
     file.setStringValue(u"Name"_s, u"three"_s);
     QVERIFY(!file.save());
