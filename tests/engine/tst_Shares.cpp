@@ -21,22 +21,6 @@ using namespace Qt::Literals::StringLiterals;
 class tst_Shares : public QObject {
   Q_OBJECT
 
-  static bool runUntil(const std::function<bool()>& done) {
-    const auto step = [&] {
-      if (!done()) UploadThread::Start();
-      return done();
-    };
-    return QTest::qWaitFor(step, 60'000);
-  }
-  /// A listed task with one file, whose input folder is `folder`.
-  static TaskPointer listed(const EngineBench& bench, const QString& name, const QString& folder) {
-    const TaskPointer task = bench.makeTask(name);
-    task->inputFolderPath = bench.home.makeFolder(folder);
-    bench.drop(name + u"1.txt"_s, "x", folder);
-    UploaderTask::addTask(task);
-    return task;
-  }
-
  private slots:
   void init() { FolderWork::setLimit(1500); }
   void cleanup() {
@@ -46,45 +30,45 @@ class tst_Shares : public QObject {
 
   void aShareThatHangsHoldsUpItsOwnTasksAlone() {
     EngineBench bench;
-    const TaskPointer a = listed(bench, u"a"_s, u"hanging-share/a"_s);
-    const TaskPointer b = listed(bench, u"b"_s, u"hanging-share/b"_s);
-    listed(bench, u"c"_s, u"local"_s);
+    const TaskPointer a = bench.listTask(u"a"_s, u"hanging-share/a"_s);
+    const TaskPointer b = bench.listTask(u"b"_s, u"hanging-share/b"_s);
+    bench.listTask(u"c"_s, u"local"_s);
     {
       const HangingShare hangs;
-      QVERIFY(runUntil([&] { return bench.received() == QStringList{u"c1.txt"_s}; }));
+      QVERIFY(bench.runUntil([&] { return bench.received() == QStringList{u"c1.txt"_s}; }));
       QTRY_VERIFY(!UploadThread::ProcessingNow());
       QCOMPARE(a->Status.load(), UploaderTask::Fault);
       QCOMPARE(b->Status.load(), UploaderTask::Fault);
       // From now on nobody waits for them, and no more threads are spent on them.
       bench.clock.advance(100);
       bench.drop(u"c2.txt"_s, "x", u"local"_s);
-      QVERIFY(runUntil([&] { return bench.received().size() == 2; }));
+      QVERIFY(bench.runUntil([&] { return bench.received().size() == 2; }));
       QCOMPARE(HangingShare::waiting(), 2);
       QCOMPARE(Problems::present().size(), 2);
     }
-    QVERIFY(runUntil([&] { return bench.received().size() == 4; }));
+    QVERIFY(bench.runUntil([&] { return bench.received().size() == 4; }));
     QVERIFY(bench.received().contains(u"a1.txt"_s) && bench.received().contains(u"b1.txt"_s));
   }
 
   void aShareThatHangsInMidBatchIsLeftToItself() {
     EngineBench bench;
-    const TaskPointer a = listed(bench, u"a"_s, u"hanging-share/a"_s);
+    const TaskPointer a = bench.listTask(u"a"_s, u"hanging-share/a"_s);
     bench.drop(u"a2.txt"_s, "x", u"hanging-share/a"_s);
     bench.service.hold();
     UploadThread::Start();
     QVERIFY(bench.service.waitForHeld(1, 60'000));
-    listed(bench, u"c"_s, u"local"_s);
+    bench.listTask(u"c"_s, u"local"_s);
     {
       const HangingShare hangs;
       bench.service.release();
-      QVERIFY(runUntil([&] { return bench.received().contains(u"c1.txt"_s); }));
+      QVERIFY(bench.runUntil([&] { return bench.received().contains(u"c1.txt"_s); }));
       QCOMPARE(a->Status.load(), UploaderTask::Fault);
       QVERIFY(a->Busy);
       QTRY_VERIFY(!UploadThread::ProcessingNow());
     }
     QTRY_VERIFY(!a->Busy);
     QVERIFY(!engineActivity().sending && !bench.received().contains(u"a2.txt"_s));
-    QVERIFY(runUntil([&] { return bench.received().contains(u"a2.txt"_s); }));
+    QVERIFY(bench.runUntil([&] { return bench.received().contains(u"a2.txt"_s); }));
     QTRY_VERIFY(!UploadThread::ProcessingNow());
     QCOMPARE(bench.received().count(u"a1.txt"_s), 1);
     QCOMPARE(bench.files(u"out"_s), (QStringList{u"a1.txt"_s, u"a2.txt"_s, u"c1.txt"_s}));
@@ -98,7 +82,7 @@ class tst_Shares : public QObject {
       const QByteArray id(1, device->load());
       return MountTable("9 0 8:1 / / rw - ext4 /dev/a rw\n" + id + " 9 0:9 / " + point + " rw - nfs4 s:/ rw\n", {});
     });
-    const TaskPointer old = listed(bench, u"a"_s, u"hanging-share/a"_s);
+    const TaskPointer old = bench.listTask(u"a"_s, u"hanging-share/a"_s);
     bench.drop(u"a2.txt"_s, QByteArray(1 << 20, 'x'), u"hanging-share/a"_s);
     bench.drop(u"a3.txt"_s, "x", u"hanging-share/a"_s);
     bench.service.whenBodyReaches(200'000, [&] { bench.service.hold(); });
@@ -115,7 +99,7 @@ class tst_Shares : public QObject {
       QCOMPARE(UploaderTask::allTasks(), QList{old});
       HangingShare::answerNewCalls();
       *device = '2';
-      QVERIFY(runUntil([&] { return bench.received().contains(u"a3.txt"_s); }));
+      QVERIFY(bench.runUntil([&] { return bench.received().contains(u"a3.txt"_s); }));
       QTRY_VERIFY(!UploadThread::ProcessingNow());
       QVERIFY(HangingShare::waiting() > 0 && old->Busy);
       present = UploaderTask::allTasks().first();
@@ -141,9 +125,9 @@ class tst_Shares : public QObject {
   void aFolderThatGoesInMidBatchCostsNoFileAndHoldsUpNobody() {
     QFETCH(QString, folder);
     EngineBench bench;
-    const TaskPointer a = listed(bench, u"a"_s, u"in"_s);
+    const TaskPointer a = bench.listTask(u"a"_s, u"in"_s);
     a->outputFolderPath = bench.home.makeFolder(u"out-a"_s);
-    listed(bench, u"b"_s, u"other"_s);
+    bench.listTask(u"b"_s, u"other"_s);
     bench.drop(u"a2.txt"_s);
     bench.service.hold();
     UploadThread::Start();
@@ -154,7 +138,7 @@ class tst_Shares : public QObject {
     QCOMPARE(a->Status.load(), UploaderTask::Fault);
     QCOMPARE(bench.received(), (QStringList{u"a1.txt"_s, u"b1.txt"_s}));
     QVERIFY(QDir().rename(bench.home.path(u"away"_s), bench.home.path(folder)));
-    QVERIFY(runUntil([&] { return bench.received().contains(u"a2.txt"_s); }));
+    QVERIFY(bench.runUntil([&] { return bench.received().contains(u"a2.txt"_s); }));
   }
 
   void aBareFolderInTheShareSPlaceIsNeitherBelievedNorWritten() {
@@ -223,8 +207,8 @@ class tst_Shares : public QObject {
       task->inputfolderURL = u"smb://server/share"_s;
       UploaderTask::addTask(task);
     }
-    listed(bench, u"c"_s, u"local"_s);
-    QVERIFY(runUntil([&] { return bench.received() == QStringList{u"c1.txt"_s}; }));
+    bench.listTask(u"c"_s, u"local"_s);
+    QVERIFY(bench.runUntil([&] { return bench.received() == QStringList{u"c1.txt"_s}; }));
     QTRY_VERIFY(!UploadThread::ProcessingNow());
     released = true;
     QTRY_VERIFY(UploaderTask::triedAutoMount());
