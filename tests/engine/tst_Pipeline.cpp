@@ -262,7 +262,8 @@ class tst_Pipeline : public QObject {
     EngineBench bench;
     bench.drop(u"a.txt"_s);
     bench.drop(u"b.txt"_s, QByteArray(1 << 20, 'b'));
-    UploaderTask::addTask(bench.makeTask());
+    const TaskPointer task = bench.makeTask();
+    UploaderTask::addTask(task);
     bench.service.whenBodyReaches(200'000, [&] { bench.service.hold(); });
     UploadThread::Start();
     QVERIFY(bench.service.waitForHeld(1, 60'000));
@@ -274,6 +275,9 @@ class tst_Pipeline : public QObject {
     EngineBench::process(*bench.makeTask());
     QCOMPARE(bench.notes(), QStringList(2, Saved));
     QCOMPARE(bench.files(u"out"_s), (QStringList{u"a.txt"_s, u"b.txt"_s}));
+    bench.makeTask()->updateDateLimit(true);  // all is due again, also to a task that knows better
+    EngineBench::process(*task);
+    QCOMPARE(bench.notes().size(), 4);
   }
 
   void aLoginChangedInMidBatchLeavesTheRestToTheNextOne() {
