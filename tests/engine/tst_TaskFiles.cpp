@@ -80,13 +80,14 @@ class tst_TaskFiles : public QObject {
   }
 
   void loadingSkipsWhatItCannotReadAndKeepsTheRest() {
-    stored(u"beta"_s, u"1.vnt"_s);
-    stored(u"Alpha"_s, u"2.VNT"_s);
-    stored(u"alpha"_s, u"3.vnt"_s);
-    stored(u"removed"_s, u"4.del"_s);
-    stored(u"other"_s, u"5.txt"_s);
-    stored(u"dotted"_s, u".6.vnt"_s);
-    stored(u"of another system"_s, u"._1.vnt"_s);
+    for (const auto& [name, file] : {std::pair(u"beta"_s, u"1.vnt"_s),
+                                     {u"Alpha"_s, u"2.VNT"_s},
+                                     {u"alpha"_s, u"3.vnt"_s},
+                                     {u"removed"_s, u"4.del"_s},
+                                     {u"other"_s, u"5.txt"_s},
+                                     {u"dotted"_s, u".6.vnt"_s},
+                                     {u"of another system"_s, u"._1.vnt"_s}})
+      stored(name, file);
     m_home->makeFolder(u"data/vantry-uploader/Uploader Tasks/folder.vnt"_s);
     const QByteArray good = TemporaryHome::readFile(taskFile(u"1.vnt"_s));
     const QString inHome = u"data/vantry-uploader/Uploader Tasks/"_s;

@@ -18,6 +18,19 @@
 using namespace Qt::Literals::StringLiterals;
 using Outcome = RegExMatch::Outcome;
 
+/// A kernel's table of mounts, and an administrator's.
+static MountTable mounts() {
+  return {
+      "22 1 8:1 / / rw - ext4 /dev/sda1 rw\n"
+      "30 22 0:40 / /mnt/a\\040b rw,relatime shared:7 master:2 - cifs //server/a rw\n"
+      "31 22 0:41 / /auto/x rw - autofs systemd-1 rw\n32 22 0:42 / /auto/y rw - autofs systemd-1 rw\n"
+      "33 32 0:43 / /auto/y rw - nfs4 server:/y rw\n34 22 0:44 / /mnt/nas rw - nfs4 server:/a rw\n"
+      "35 34 0:45 / /mnt/nas/local rw - tmpfs tmpfs rw\n36 22 0:46 / /home/nas rw - newfs x rw\n"
+      "37 22 0:47 / /run/gvfs rw - fuse.gvfsd-fuse gvfsd-fuse rw\n",
+      "#//server/n /mnt/no cifs\nUUID=1 / ext4 defaults 0 1\n//server/p\t/mnt/paper/ cifs noauto 0 0\n"
+      "//server/a /mnt/a\\040b cifs ro 0 0\nUUID=2 none swap sw 0 0\n"};
+}
+
 class tst_Bounds : public QObject {
   Q_OBJECT
  private slots:
@@ -99,14 +112,6 @@ class tst_Bounds : public QObject {
   }
 
   void aMountPointThatIsMissingIsFound() {
-    const MountTable table(
-        "22 1 8:1 / / rw - ext4 /dev/sda1 rw\n"
-        "30 22 0:40 / /mnt/a\\040b rw,relatime shared:7 master:2 - cifs //server/a rw\n"
-        "31 22 0:41 / /auto/x rw - autofs systemd-1 rw\n"
-        "32 22 0:42 / /auto/y rw - autofs systemd-1 rw\n"
-        "33 32 0:43 / /auto/y rw - nfs4 server:/y rw\n",
-        "#//server/n /mnt/no cifs\nUUID=1 / ext4 defaults 0 1\n//server/p\t/mnt/paper/ cifs noauto 0 0\n"
-        "//server/a /mnt/a\\040b cifs ro 0 0\nUUID=2 none swap sw 0 0\n");
     // The path, where it was mounted at the last look, and what is missing.
     const std::array<QByteArray, 3> rows[] = {{"/mnt/a b/in", "/mnt/a b", ""},
                                               {"/srv/in", "", ""},
@@ -118,7 +123,7 @@ class tst_Bounds : public QObject {
                                               {"/auto/x/in", "/auto/x", "/auto/x"},
                                               {"/auto/y/in", "/auto/y", ""},
                                               {"/srv/other", "/mnt/a b", ""}};
-    for (const auto& [path, remembered, missing] : rows) QCOMPARE(table.missingFor(path, remembered), missing);
+    for (const auto& [path, remembered, missing] : rows) QCOMPARE(mounts().missingFor(path, remembered), missing);
   }
 
   void noLoginIsShownOfAnAddress() {
@@ -178,20 +183,16 @@ class tst_Bounds : public QObject {
     link("over a link", "over two links");
     link("in a circle", "in a circle");
     link("..", "back");
-    const MountTable table(
-        "22 1 8:1 / / rw - ext4 /dev/sda1 rw\n30 22 0:40 / /mnt/nas rw - nfs4 server:/a rw\n"
-        "31 30 0:41 / /mnt/nas/local rw - tmpfs tmpfs rw\n32 22 0:42 / /auto rw - autofs systemd-1 rw\n"
-        "33 22 0:43 / /run/gvfs rw - fuse.gvfsd-fuse gvfsd-fuse rw\n34 22 0:44 / /home/nas rw - newfs x rw\n",
-        "");
     for (const char* const path :
-         {"/mnt/nas", "/mnt/nas/local/x", "/mnt/nas/..", "/auto", "/run/gvfs/x", "/home/nas", "/mnt/./x/../nas"})
-      QVERIFY2(table.leadsToShare(path), path);
+         {"/mnt/nas", "/mnt/nas/local/x", "/mnt/nas/..", "/auto/x", "/run/gvfs/x", "/home/nas", "/mnt/./x/../nas"})
+      QVERIFY2(mounts().leadsToShare(path), path);
     for (const char* const path : {"/", "/mnt", "/mnt/nas2", "/mnt/x/../../home"})
-      QVERIFY2(!table.leadsToShare(path), path);
+      QVERIFY2(!mounts().leadsToShare(path), path);
     const QByteArray at = home.path().toUtf8() + '/';
     for (const char* const path : {"over a link", "over two links/x", "no/../over a link"})
-      QVERIFY2(table.leadsToShare(at + path), path);
-    for (const char* const path : {"", "no", "in a circle/x", "back/x"}) QVERIFY2(!table.leadsToShare(at + path), path);
+      QVERIFY2(mounts().leadsToShare(at + path), path);
+    for (const char* const path : {"", "no", "in a circle/x", "back/x"})
+      QVERIFY2(!mounts().leadsToShare(at + path), path);
   }
 };
 
