@@ -182,34 +182,29 @@ class tst_BatchLedger : public QObject {
     QCOMPARE(scene.sent, QList<int>{3});
   }
 
-  void ourClockSetRightSendsEachFileOnce_data() {
-    addColumns<double, bool>("shareSkew", "restarts");
-    QTest::newRow("local files") << 0.0 << false;
-    QTest::newRow("local files, a restart between") << 0.0 << true;
-    QTest::newRow("a share whose clock was right") << -3600.0 << false;
-  }
   void ourClockSetRightSendsEachFileOnce() {
-    QFETCH(double, shareSkew);
-    QFETCH(bool, restarts);
-    Scene scene;
-    QList<int> written;
-    const auto write = [&](double skew) {
-      const QByteArray name = "f" + QByteArray::number(written.size()) + ".txt";
-      written << scene.place(name, 100, scene.clock.now().TotalSeconds() + skew);
-    };
-    write(0);
-    scene.passes(2);
-    scene.clock.jump(3600);
-    // Where the share's clock is right, only the first of these is seen before ours is set right.
-    const double step = shareSkew == 0 ? 180 : 15;
-    for (int i = 0; i < 20; ++i) write(shareSkew), scene.clock.advance(step), scene.passes(1);
-    scene.clock.jump(-3600);
-    if (restarts) scene.restart();
-    scene.passes(2);
-    for (int i = 0; i < 20; ++i) write(0), scene.passes(3), scene.clock.advance(120);
-    scene.passes(2);
-    std::sort(scene.sent.begin(), scene.sent.end());
-    QCOMPARE(scene.sent, written);
+    // Local files, a restart between, and a share whose clock was right.
+    for (const auto& [shareSkew, restarts] : {std::pair(0.0, false), {0.0, true}, {-3600.0, false}}) {
+      Scene scene;
+      QList<int> written;
+      const auto write = [&](double skew) {
+        const QByteArray name = "f" + QByteArray::number(written.size()) + ".txt";
+        written << scene.place(name, 100, scene.clock.now().TotalSeconds() + skew);
+      };
+      write(0);
+      scene.passes(2);
+      scene.clock.jump(3600);
+      // Where the share's clock is right, only the first of these is seen before ours is set right.
+      const double step = shareSkew == 0 ? 180 : 15;
+      for (int i = 0; i < 20; ++i) write(shareSkew), scene.clock.advance(step), scene.passes(1);
+      scene.clock.jump(-3600);
+      if (restarts) scene.restart();
+      scene.passes(2);
+      for (int i = 0; i < 20; ++i) write(0), scene.passes(3), scene.clock.advance(120);
+      scene.passes(2);
+      std::sort(scene.sent.begin(), scene.sent.end());
+      QCOMPARE(scene.sent, written);
+    }
   }
 
   void theMemoryStaysSmall() {

@@ -1,14 +1,11 @@
 // Which task runs, when a run ends, and what state the tasks are in.
 
-#include <QDir>
-#include <QTest>
 #include <atomic>
 #include <stdexcept>
 
 #include "engine/EngineClock.h"
 #include "engine/UploadThread.h"
 #include "platform/Problems.h"
-#include "storage/LogEntry.h"
 #include "support/EngineBench.h"
 #include "support/TestRunner.h"
 

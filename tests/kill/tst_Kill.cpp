@@ -2,9 +2,7 @@
 // file stands under a visible name, and what was due has been sent.
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QProcess>
-#include <QTest>
 
 #include "platform/SpecialFolder.h"
 #include "storage/Preferences.h"

@@ -1,8 +1,6 @@
 // Mounting for real: a file server on a loopback port, the desktop's mount service, and folders in its FUSE mount.
 
-#include <QDir>
 #include <QFile>
-#include <QTest>
 #include <thread>
 
 #include "PrivateSession.h"

@@ -1,7 +1,6 @@
 // Whole tasks whose folders lie on a real share: mounted by the engine, sent, copied back, and through an outage.
 
 #include <QDir>
-#include <QTest>
 
 #include "PrivateSession.h"
 #include "SambaServer.h"

@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QProcess>
 #include <QSignalSpy>
-#include <QTest>
 #include <thread>
 
 #include "SingleInstance.h"

@@ -1,5 +1,4 @@
 #include <QSet>
-#include <QTest>
 
 #include "support/TestRunner.h"
 #include "text/Placeholders.h"
