@@ -3,7 +3,6 @@
 #include <QMap>
 #include <QRandomGenerator>
 #include <cmath>
-#include <functional>
 
 #include "engine/BatchLedger.h"
 #include "support/ManualClock.h"
@@ -23,7 +22,6 @@ class Scene {
   BatchLedger ledger;
   double limit = 0;
   QList<int> sent;
-  std::function<void(const QByteArray& name)> whileSending = [](const QByteArray&) {};
 
   /// Writes a file anew; gives the number of this content.
   int write(const QByteArray& name, qint64 size = 100) {
@@ -43,7 +41,6 @@ class Scene {
       for (const ScannedFile& file : selection.due) {
         sent << content(file.name);
         clock.advance(0.05);
-        whileSending(file.name);
         ledger.dealtWith(file);
       }
       began = clock.now();
@@ -99,22 +96,6 @@ class tst_BatchLedger : public QObject {
     QCOMPARE(scene.sent.size(), 2);
   }
 
-  void whatLandsOrIsRewrittenDuringABatchJoinsItOrTheNext() {
-    for (const QByteArray& later : {"b.txt"_ba, "a.txt"_ba}) {
-      Scene scene;
-      scene.write("a.txt");
-      scene.clock.advance(3);
-      scene.whileSending = [&, done = false](const QByteArray&) mutable {
-        if (!std::exchange(done, true)) scene.write(later), scene.clock.advance(5);
-      };
-      scene.pass();
-      QCOMPARE(scene.sent, (QList<int>{1, 2}));
-      QVERIFY(scene.limit < scene.clock.now().TotalSeconds() + 0.001);
-      scene.passes(2);
-      QCOMPARE(scene.sent.size(), 2);
-    }
-  }
-
   void everyVersionGoesOutOnceWhateverTheFoldersClock_data() {
     addColumns<double, double>("skew", "step");
     for (const double skew : {-300.0, -61.0, -2.5, -0.3, 0.0, 0.3, 2.5, 61.0, 300.0})
@@ -151,21 +132,6 @@ class tst_BatchLedger : public QObject {
       // that lags by less than the time between two looks can't be told from a file that has rested so long.
       if (skew > -0.5 || skew < -4) QVERIFY2(content % 2 == 0, qPrintable(u"half-written content %1"_s.arg(content)));
     }
-  }
-
-  void aFileDatedFarAheadGoesOutOnceAndALimitSetBackMakesEverythingDueAgain() {
-    Scene scene;
-    scene.place("future.txt", 5, scene.clock.now().TotalSeconds() + 4e8);
-    scene.passes(3);
-    QCOMPARE(scene.sent, QList<int>{1});
-    QVERIFY(scene.limit <= scene.clock.now().TotalSeconds());
-    scene.restart();
-    scene.write("today.txt");
-    scene.passes(5);
-    QCOMPARE(scene.sent, (QList<int>{1, 2}));
-    scene.limit = 0;
-    scene.passes(3);
-    QCOMPARE(scene.sent.size(), 4);
   }
 
   void withoutAMemoryTheLimitAloneHolds() {

@@ -134,20 +134,14 @@ class tst_Pipeline : public QObject {
     EngineBench bench;
     QByteArray binary;
     for (int i = 0; i < 100'000; ++i) binary.append(static_cast<char>(i * 31));
-    const std::pair<QByteArray, QString> names[] = {{"[FILEBODY] [password].txt", u"[FILEBODY] [password].txt"_s},
-                                                    {"a\xE2\x80\xAE"
-                                                     "b.txt",
-                                                     u"a\u202Eb.txt"_s},
-                                                    {"B<b>&amp;\"'.txt", u"B<b>&amp;\"'.txt"_s},
-                                                    {"caf\xE9.txt", u"caf\uFFFD.txt"_s},
-                                                    {"line\nbreak.txt", u"line\nbreak.txt"_s},
-                                                    {QByteArray(251, 'x') + ".txt", QString(251, u'x') + u".txt"_s}};
+    const QByteArray names[] = {"[FILEBODY] [password].txt", "a\u202Eb.txt",
+                                "B<b>&amp;\"'.txt",          "caf\xE9.txt",
+                                "line\nbreak.txt",           QByteArray(251, 'x') + ".txt"};
     const QByteArray in = bench.home.path(u"in/"_s).toUtf8();
     QStringList shown;
-    for (const auto& [name, text] : names) {
-      const QByteArray plain = bench.drop(u"plain.txt"_s, binary).toUtf8();
-      QCOMPARE(::rename(plain, in + name), 0);
-      shown << text;
+    for (const QByteArray& name : names) {
+      QCOMPARE(::rename(bench.drop(u"plain.txt"_s, binary).toUtf8(), in + name), 0);
+      shown << QString::fromUtf8(name);
     }
     QVERIFY(::mkfifo(in + "fifo.txt", 0666) == 0 && ::symlink("loop.txt", in + "loop.txt") == 0);
     QVERIFY(::symlink("/", in + "folder.txt") == 0);

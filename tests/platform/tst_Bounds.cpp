@@ -9,7 +9,6 @@
 #include "platform/JSONItem.h"
 #include "platform/Mount.h"
 #include "platform/MountTable.h"
-#include "platform/Problems.h"
 #include "platform/RegEx.h"
 #include "platform/SpecialFolder.h"
 #include "support/TemporaryHome.h"
@@ -34,14 +33,6 @@ static MountTable mounts() {
 class tst_Bounds : public QObject {
   Q_OBJECT
  private slots:
-  void orderDigitsAndTextAreKeptAndTheLastOfEqualNamesHolds() {
-    const auto item = JSONItem::parse(
-        " {\"z\" :1,\t\"a\":2,\"m\":[1.10, "
-        "1E+5,-0,\r\n12345678901234567890123],\"a\":[true,null,\"\\ud83d\\ude00\"]} ");
-    QCOMPARE(item.value_or(JSONItem()).ToString(),
-             "{\"z\":1,\"a\":[true,null,\"\xf0\x9f\x98\x80\"],\"m\":[1.10,1E+5,-0,12345678901234567890123]}"_ba);
-  }
-
   void whatIsNoJsonIsRefused() {
     const auto nested = [](const QByteArray& begin, int depth, const QByteArray& end) {
       return begin.repeated(depth) + '1' + end.repeated(depth);
@@ -150,17 +141,6 @@ class tst_Bounds : public QObject {
     }
     QCOMPARE(Date::fromTotalSeconds(std::nan("")).nanoseconds(), 0);
     QCOMPARE(Date::fromTotalSeconds(1e300).nanoseconds(), 9'200'000'000'000'000'000);
-  }
-
-  void monthsOfProblemsDoNotPileUp() {
-    const auto kind = Problem::Kind::UploadFailed;
-    for (int i = 0; i < 10'000; ++i) Problems::raise(kind, QString::number(i), u"d"_s);
-    const auto count = Problems::present().size();
-    Problems::raise(kind, u"9998"_s, u"again"_s);
-    QVERIFY(count < 1000 && Problems::present().size() == count);
-    QCOMPARE(Problems::present().last().subject, u"9999"_s);
-    QCOMPARE(Problems::present()[count - 2].detail, u"again"_s);
-    Problems::clearKind(kind);
   }
 
   void foldersFollowTheEnvironment() {
