@@ -134,7 +134,7 @@ class tst_BatchLedger : public QObject {
     }
   }
 
-  void withoutAMemoryTheLimitAloneHolds() {
+  void withoutAMemoryTheLimitAloneHoldsAndOneSetBackMakesAllDueAgain() {
     Scene scene;
     for (const char* damaged : {"*&^%", "AAAA"}) {
       scene.ledger.fromText(QString::fromLatin1(damaged));
@@ -146,6 +146,9 @@ class tst_BatchLedger : public QObject {
     scene.place("later.txt", 5, scene.limit + 1);
     scene.passes(4);
     QCOMPARE(scene.sent, QList<int>{3});
+    scene.limit = 0;
+    scene.passes(3);
+    QCOMPARE(scene.sent.size(), 4);
   }
 
   void ourClockSetRightSendsEachFileOnce() {
