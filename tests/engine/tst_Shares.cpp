@@ -2,7 +2,6 @@
 
 #include <QDir>
 #include <QTemporaryDir>
-#include <QTest>
 #include <cstring>
 #include <thread>
 
@@ -21,22 +20,6 @@ using namespace Qt::Literals::StringLiterals;
 class tst_Shares : public QObject {
   Q_OBJECT
 
-  static bool runUntil(const std::function<bool()>& done) {
-    const auto step = [&] {
-      if (!done()) UploadThread::Start();
-      return done();
-    };
-    return QTest::qWaitFor(step, 60'000);
-  }
-  /// A listed task with one file, whose input folder is `folder`.
-  static TaskPointer listed(const EngineBench& bench, const QString& name, const QString& folder) {
-    const TaskPointer task = bench.makeTask(name);
-    task->inputFolderPath = bench.home.makeFolder(folder);
-    bench.drop(name + u"1.txt"_s, "x", folder);
-    UploaderTask::addTask(task);
-    return task;
-  }
-
  private slots:
   void init() { FolderWork::setLimit(1500); }
   void cleanup() {
@@ -46,45 +29,43 @@ class tst_Shares : public QObject {
 
   void aShareThatHangsHoldsUpItsOwnTasksAlone() {
     EngineBench bench;
-    const TaskPointer a = listed(bench, u"a"_s, u"hanging-share/a"_s);
-    const TaskPointer b = listed(bench, u"b"_s, u"hanging-share/b"_s);
-    listed(bench, u"c"_s, u"local"_s);
+    const TaskPointer a = bench.listTask(u"a"_s, u"hanging-share/a"_s);
+    const TaskPointer b = bench.listTask(u"b"_s, u"hanging-share/b"_s);
+    bench.listTask(u"c"_s, u"local"_s);
     {
       const HangingShare hangs;
-      QVERIFY(runUntil([&] { return bench.received() == QStringList{u"c1.txt"_s}; }));
+      QVERIFY(bench.runUntil([&] { return bench.received() == QStringList{u"c1.txt"_s}; }));
       QTRY_VERIFY(!UploadThread::ProcessingNow());
-      QCOMPARE(a->Status.load(), UploaderTask::Fault);
-      QCOMPARE(b->Status.load(), UploaderTask::Fault);
+      QVERIFY(a->Status == UploaderTask::Fault && b->Status == UploaderTask::Fault);
       // From now on nobody waits for them, and no more threads are spent on them.
       bench.clock.advance(100);
       bench.drop(u"c2.txt"_s, "x", u"local"_s);
-      QVERIFY(runUntil([&] { return bench.received().size() == 2; }));
+      QVERIFY(bench.runUntil([&] { return bench.received().size() == 2; }));
       QCOMPARE(HangingShare::waiting(), 2);
       QCOMPARE(Problems::present().size(), 2);
     }
-    QVERIFY(runUntil([&] { return bench.received().size() == 4; }));
+    QVERIFY(bench.runUntil([&] { return bench.received().size() == 4; }));
     QVERIFY(bench.received().contains(u"a1.txt"_s) && bench.received().contains(u"b1.txt"_s));
   }
 
   void aShareThatHangsInMidBatchIsLeftToItself() {
     EngineBench bench;
-    const TaskPointer a = listed(bench, u"a"_s, u"hanging-share/a"_s);
-    bench.drop(u"a2.txt"_s, "x", u"hanging-share/a"_s);
+    const TaskPointer a = bench.listTask(u"a"_s, u"hanging-share/a"_s, 2);
     bench.service.hold();
     UploadThread::Start();
     QVERIFY(bench.service.waitForHeld(1, 60'000));
-    listed(bench, u"c"_s, u"local"_s);
+    bench.listTask(u"c"_s, u"local"_s);
     {
       const HangingShare hangs;
       bench.service.release();
-      QVERIFY(runUntil([&] { return bench.received().contains(u"c1.txt"_s); }));
+      QVERIFY(bench.runUntil([&] { return bench.received().contains(u"c1.txt"_s); }));
       QCOMPARE(a->Status.load(), UploaderTask::Fault);
       QVERIFY(a->Busy);
       QTRY_VERIFY(!UploadThread::ProcessingNow());
     }
     QTRY_VERIFY(!a->Busy);
     QVERIFY(!engineActivity().sending && !bench.received().contains(u"a2.txt"_s));
-    QVERIFY(runUntil([&] { return bench.received().contains(u"a2.txt"_s); }));
+    QVERIFY(bench.runUntil([&] { return bench.received().contains(u"a2.txt"_s); }));
     QTRY_VERIFY(!UploadThread::ProcessingNow());
     QCOMPARE(bench.received().count(u"a1.txt"_s), 1);
     QCOMPARE(bench.files(u"out"_s), (QStringList{u"a1.txt"_s, u"a2.txt"_s, u"c1.txt"_s}));
@@ -98,7 +79,7 @@ class tst_Shares : public QObject {
       const QByteArray id(1, device->load());
       return MountTable("9 0 8:1 / / rw - ext4 /dev/a rw\n" + id + " 9 0:9 / " + point + " rw - nfs4 s:/ rw\n", {});
     });
-    const TaskPointer old = listed(bench, u"a"_s, u"hanging-share/a"_s);
+    const TaskPointer old = bench.listTask(u"a"_s, u"hanging-share/a"_s);
     bench.drop(u"a2.txt"_s, QByteArray(1 << 20, 'x'), u"hanging-share/a"_s);
     bench.drop(u"a3.txt"_s, "x", u"hanging-share/a"_s);
     bench.service.whenBodyReaches(200'000, [&] { bench.service.hold(); });
@@ -115,7 +96,7 @@ class tst_Shares : public QObject {
       QCOMPARE(UploaderTask::allTasks(), QList{old});
       HangingShare::answerNewCalls();
       *device = '2';
-      QVERIFY(runUntil([&] { return bench.received().contains(u"a3.txt"_s); }));
+      QVERIFY(bench.runUntil([&] { return bench.received().contains(u"a3.txt"_s); }));
       QTRY_VERIFY(!UploadThread::ProcessingNow());
       QVERIFY(HangingShare::waiting() > 0 && old->Busy);
       present = UploaderTask::allTasks().first();
@@ -126,35 +107,28 @@ class tst_Shares : public QObject {
     bench.restart();
     const TaskPointer next = bench.makeTask(u"a"_s);
     next->inputFolderPath = old->inputFolderPath;
-    for (const TaskPointer& task : {present, next, next}) {
-      bench.clock.advance(4);
-      EngineBench::process(*task);
-    }
+    bench.passes(*present, 1);
+    bench.passes(*next, 2);
     QCOMPARE(bench.received(), (QStringList{u"a1.txt"_s, u"a2.txt"_s, u"a2.txt"_s, u"a3.txt"_s}));
   }
 
-  void aFolderThatGoesInMidBatchCostsNoFileAndHoldsUpNobody_data() {
-    QTest::addColumn<QString>("folder");
-    QTest::newRow("input") << u"in"_s;
-    QTest::newRow("output") << u"out-a"_s;
-  }
   void aFolderThatGoesInMidBatchCostsNoFileAndHoldsUpNobody() {
-    QFETCH(QString, folder);
-    EngineBench bench;
-    const TaskPointer a = listed(bench, u"a"_s, u"in"_s);
-    a->outputFolderPath = bench.home.makeFolder(u"out-a"_s);
-    listed(bench, u"b"_s, u"other"_s);
-    bench.drop(u"a2.txt"_s);
-    bench.service.hold();
-    UploadThread::Start();
-    QVERIFY(bench.service.waitForHeld(1, 60'000));
-    QVERIFY(QDir().rename(bench.home.path(folder), bench.home.path(u"away"_s)));
-    bench.service.release();
-    QTRY_VERIFY(!UploadThread::ProcessingNow());
-    QCOMPARE(a->Status.load(), UploaderTask::Fault);
-    QCOMPARE(bench.received(), (QStringList{u"a1.txt"_s, u"b1.txt"_s}));
-    QVERIFY(QDir().rename(bench.home.path(u"away"_s), bench.home.path(folder)));
-    QVERIFY(runUntil([&] { return bench.received().contains(u"a2.txt"_s); }));
+    for (const QString& folder : {u"in"_s, u"out-a"_s}) {
+      EngineBench bench;
+      const TaskPointer a = bench.listTask(u"a"_s, u"in"_s, 2);
+      a->outputFolderPath = bench.home.makeFolder(u"out-a"_s);
+      bench.listTask(u"b"_s, u"other"_s);
+      bench.service.hold();
+      UploadThread::Start();
+      QVERIFY(bench.service.waitForHeld(1, 60'000));
+      QVERIFY(QDir().rename(bench.home.path(folder), bench.home.path(u"away"_s)));
+      bench.service.release();
+      QTRY_VERIFY(!UploadThread::ProcessingNow());
+      QCOMPARE(a->Status.load(), UploaderTask::Fault);
+      QCOMPARE(bench.received(), (QStringList{u"a1.txt"_s, u"b1.txt"_s}));
+      QVERIFY(QDir().rename(bench.home.path(u"away"_s), bench.home.path(folder)));
+      QVERIFY(bench.runUntil([&] { return bench.received().contains(u"a2.txt"_s); }));
+    }
   }
 
   void aBareFolderInTheShareSPlaceIsNeitherBelievedNorWritten() {
@@ -177,10 +151,7 @@ class tst_Shares : public QObject {
     QVERIFY2(bench.notes().value(0).contains(u"not deleted"_s, Qt::CaseInsensitive),
              qPrintable(bench.notes().value(0)));
     QVERIFY(mount(share.path()));
-    for (int pass = 0; pass < 2; ++pass) {
-      bench.clock.advance(10);
-      EngineBench::process(*task);
-    }
+    bench.passes(*task, 2, 10);
     QCOMPARE(bench.received().size(), 1);
   }
 
@@ -223,8 +194,8 @@ class tst_Shares : public QObject {
       task->inputfolderURL = u"smb://server/share"_s;
       UploaderTask::addTask(task);
     }
-    listed(bench, u"c"_s, u"local"_s);
-    QVERIFY(runUntil([&] { return bench.received() == QStringList{u"c1.txt"_s}; }));
+    bench.listTask(u"c"_s, u"local"_s);
+    QVERIFY(bench.runUntil([&] { return bench.received() == QStringList{u"c1.txt"_s}; }));
     QTRY_VERIFY(!UploadThread::ProcessingNow());
     released = true;
     QTRY_VERIFY(UploaderTask::triedAutoMount());
@@ -244,30 +215,24 @@ class tst_Shares : public QObject {
     QVERIFY(stopped);
   }
 
-  void aBareMountPointIsNeitherReadNorWritten_data() {
-    QTest::addColumn<bool>("input");
-    QTest::newRow("input") << true;
-    QTest::newRow("output") << false;
-  }
   void aBareMountPointIsNeitherReadNorWritten() {
-    QFETCH(bool, input);
-    EngineBench bench;
-    bench.drop(u"a.txt"_s);
-    const TaskPointer task = bench.makeTask();
-    const QString folder = input ? task->inputFolderPath : task->outputFolderPath;
-    // As an earlier look would have left it, had something been mounted there.
-    VantryUtil::prefs->setStringValue(u"mountpoint "_s + folder, folder);
-    bench.restart();
-    EngineBench::process(*task);
-    QCOMPARE(task->Status.load(), UploaderTask::Fault);
-    QVERIFY(bench.received().isEmpty());
-    QVERIFY(QDir(bench.home.path(u"out"_s)).isEmpty());
-    QCOMPARE(Problems::present().size(), 1);
-    QCOMPARE(Problems::present().first().detail, folder);
-    UploaderTask::takeAsItIs(folder);
-    EngineBench::process(*task);
-    QCOMPARE(bench.received(), QStringList{u"a.txt"_s});
-    QVERIFY(Problems::present().isEmpty());
+    for (const bool input : {true, false}) {
+      EngineBench bench;
+      bench.drop(u"a.txt"_s);
+      const TaskPointer task = bench.makeTask();
+      const QString folder = input ? task->inputFolderPath : task->outputFolderPath;
+      // As an earlier look would have left it, had something been mounted there.
+      VantryUtil::prefs->setStringValue(u"mountpoint "_s + folder, folder);
+      bench.restart();
+      EngineBench::process(*task);
+      QCOMPARE(task->Status.load(), UploaderTask::Fault);
+      QVERIFY(bench.received().isEmpty() && QDir(bench.home.path(u"out"_s)).isEmpty());
+      QCOMPARE(Problems::present().value(0).detail, folder);
+      UploaderTask::takeAsItIs(folder);
+      EngineBench::process(*task);
+      QCOMPARE(bench.received(), QStringList{u"a.txt"_s});
+      QVERIFY(bench.problems().isEmpty());
+    }
   }
 };
 

@@ -15,101 +15,83 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-static bool unreachable() {
-  for (const Problem& problem : Problems::present())
-    if (problem.kind == Problem::Kind::ServiceUnreachable) return true;
-  return false;
-}
-
-/// Ends the start-up before what it uses goes.
+/// The service where this build looks for it, and a program that hasn't asked it yet. Ends the start-up before what it
+/// uses goes.
 class StartUpBench : public EngineBench {
  public:
+  StartUpBench() {
+    service.stop();
+    startService();
+    VantryUtil::setAccountURL({});
+    VTTrack::forget();
+    VTInstrumentTrack::forget();
+    UploadThread::Enabled = false;
+  }
   ~StartUpBench() {
     StartUp::stop(60'000);
     VantryUtil::allowServiceCalls();
   }
+  void startService() {
+    const int port = QUrl(VantryUtil::DefaultAPIEndpoint()).port(443);
+    if (!service.start(static_cast<quint16>(port))) qFatal("%s", qPrintable(service.errorString()));
+    VantryUtil::setExtraCaFile(service.caFile());
+  }
+  [[nodiscard]] static bool unreachable() { return problems().contains(Problem::Kind::ServiceUnreachable); }
 };
 
 class tst_StartUp : public QObject {
   Q_OBJECT
 
-  /// The service where this build looks for it.
-  static void startAtDefault(PracticeService& service) {
-    const int port = QUrl(VantryUtil::DefaultAPIEndpoint()).port(443);
-    QVERIFY2(service.start(static_cast<quint16>(port)), qPrintable(service.errorString()));
-    VantryUtil::setExtraCaFile(service.caFile());
-  }
-
  private slots:
   void withoutANetworkTheTasksRunAndTheRestComesByItself() {
     StartUpBench bench;
-    VantryUtil::setAccountURL({});
-    UploadThread::Enabled = false;
+    bench.service.stop();
     QVERIFY(bench.makeTask()->save(UploaderTask::TaskDirectory().Child(u"a.vnt"_s)));
-    PracticeService late;
-    startAtDefault(late);
-    late.stop();
-
     std::atomic<int> loaded{0};
     StartUp::begin({.tasksLoaded = [&] { ++loaded; }, .failed = {}});
     QTRY_COMPARE(loaded.load(), 1);
-    QVERIFY(UploadThread::Enabled);
+    QVERIFY(UploadThread::Enabled && bench.unreachable() && VantryUtil::AccountURL().isEmpty());
     QCOMPARE(UploaderTask::allTasks().size(), 1);
-    QVERIFY(unreachable());
-    QVERIFY(VantryUtil::AccountURL().isEmpty());
-
-    startAtDefault(late);
+    bench.startService();
     QTRY_VERIFY(VTInstrumentTrack::everFetched() && VTTrack::everFetched());
-    QCOMPARE(VantryUtil::AccountURL(), late.url());
+    QCOMPARE(VantryUtil::AccountURL(), bench.service.url());
     QVERIFY(!VTTrack::ListDevices().isEmpty());
-    QTRY_VERIFY(!unreachable());
+    QTRY_VERIFY(!bench.unreachable());
     QCOMPARE(loaded.load(), 1);
   }
 
   void aServiceThatSaysNoIsThere() {
     StartUpBench bench;
-    VantryUtil::setAccountURL({});
-    PracticeService service;
-    startAtDefault(service);
-    service.misbehave({.kind = Misbehaviour::Kind::ErrorCode, .text = "E009", .times = 0, .method = "Get_API_URL"});
+    bench.service.misbehave(
+        {.kind = Misbehaviour::Kind::ErrorCode, .text = "E009", .times = 0, .method = "Get_API_URL"});
     Problems::raise(Problem::Kind::ServiceUnreachable, {}, u"nobody"_s);
     StartUp::begin({});
-    QTRY_VERIFY(!unreachable());
-    QTRY_COMPARE(Problems::present().size(), 1);
-    QCOMPARE(Problems::present().first().kind, Problem::Kind::ServiceRefuses);
+    QTRY_VERIFY(!bench.unreachable());
+    QTRY_COMPARE(bench.problems(), QList{Problem::Kind::ServiceRefuses});
     QVERIFY(Problems::present().first().detail.startsWith(u"E009 - Wrong login"_s));
-    service.behave();
+    bench.service.behave();
     StartUp::refresh(true);
-    QTRY_VERIFY(Problems::present().isEmpty());
+    QTRY_VERIFY(bench.problems().isEmpty());
   }
 
   void theEndpointComesFirstTheTasksLastAndAnExceptionIsHandedOut() {
     StartUpBench bench;
-    VantryUtil::setAccountURL({});
-    UploadThread::Enabled = false;
-    PracticeService service;
-    startAtDefault(service);
-    service.misbehave({.kind = Misbehaviour::Kind::ErrorCode, .text = "E003", .method = "TrackList"});
-    std::atomic<int> requestsAtLoad{-1};
+    bench.service.misbehave({.kind = Misbehaviour::Kind::ErrorCode, .text = "E003", .method = "TrackList"});
+    QByteArrayList methods;
     QString reason;
     std::atomic<bool> failed{false};
     const auto loaded = [&] {
-      requestsAtLoad = static_cast<int>(service.requests().size());
+      for (const PracticeRequest& request : bench.service.requests()) methods << request.method;
       throw std::runtime_error("planted");
     };
     StartUp::begin({.tasksLoaded = loaded, .failed = [&](const QString& why) { reason = why, failed = true; }});
     QTRY_VERIFY(failed);
     QCOMPARE(reason, u"planted"_s);
-    QCOMPARE(requestsAtLoad.load(), 3);
-    QByteArrayList methods;
-    for (const PracticeRequest& request : service.requests()) methods << request.method;
     QCOMPARE(methods, (QByteArrayList{"Get_API_URL", "TrackList", "InstrumentTargetList"}));
   }
 
   void anotherLoginBringsItsEndpointAndCatalogues() {
     StartUpBench bench;
-    PracticeService service;
-    startAtDefault(service);
     StartUp::begin({});
     QTRY_VERIFY(VTInstrumentTrack::everFetched());
     VTTrack old;
@@ -119,11 +101,11 @@ class tst_StartUp : public QObject {
     QTRY_VERIFY(UploadThread::Enabled);
     QCOMPARE(VTTrack::ListDevices(), QStringList{u"old"_s});  // the account is the same
 
-    service.forgetReceived();
-    service.misbehave({.kind = Misbehaviour::Kind::NoReply});
+    bench.service.forgetReceived();
+    bench.service.misbehave({.kind = Misbehaviour::Kind::NoReply});
     StartUp::refresh(true);
     QVERIFY(VTTrack::ListDevices().isEmpty() && VantryUtil::AccountURL().isEmpty());
-    QVERIFY(service.waitForRequests(1, 60'000));
+    QVERIFY(bench.service.waitForRequests(1, 60'000));
     QVERIFY2(!UploadThread::Enabled, "no file goes out before the endpoint has been asked for");
     UploadThread::enable();
     QVERIFY(!UploadThread::Enabled);
@@ -136,17 +118,15 @@ class tst_StartUp : public QObject {
     StartUp::refresh(true);
     QTRY_VERIFY(VTInstrumentTrack::everFetched());
     QVERIFY(UploadThread::Enabled && !VTTrack::ListDevices().isEmpty());
-    QCOMPARE(VantryUtil::AccountURL(), service.url());
+    QCOMPARE(VantryUtil::AccountURL(), bench.service.url());
   }
 
   void anAnswerToTheLoginBeforeIsDropped() {
     StartUpBench bench;
-    PracticeService service;
-    startAtDefault(service);
-    service.misbehave({.kind = Misbehaviour::Kind::TrickleReply, .bytes = 100, .everyMs = 20});
+    bench.service.misbehave({.kind = Misbehaviour::Kind::TrickleReply, .bytes = 100, .everyMs = 20});
     bool resolved = true;
     std::thread slow([&resolved] { resolved = VantryUtil::ResolveAccountURL(); });
-    const bool asked = service.waitForRequests(1, 60'000);
+    const bool asked = bench.service.waitForRequests(1, 60'000);
     VantryUtil::changeAccount(u"another"_s, u"x"_s, {});
     slow.join();
     QVERIFY(asked && !resolved && VantryUtil::AccountURL().isEmpty());

@@ -56,12 +56,10 @@ class tst_TaskFiles : public QObject {
       task->inputfolderURL = u"smb://in/a b"_s, task->outputFolderUrl = u"smb://out"_s;
       task->InputLogin = u"SHOP\\in"_s, task->outputLogin = u"out@shop"_s;
       task->inputPassword = u"magenta"_s, task->outputPassword = u"paper"_s;
-      QVERIFY(task->save(UploaderTask::TaskDirectory().Child(u"x.vnt"_s)));
+      QVERIFY(task->save(UploaderTask::TaskDirectory().Child(u"x.vnt"_s)) && UploaderTask::duplicateTask(task));
       QVERIFY(!TemporaryHome::readFile(task->file->NativePath()).contains("magenta"));
-      QVERIFY(UploaderTask::duplicateTask(task));
       const TaskPointer copy = UploaderTask::allTasks().last();
-      QVERIFY2(copy->disabled, "it would send every file once more");
-      QVERIFY(copy->Name.endsWith(u" Copy"_s));
+      QVERIFY2(copy->disabled && copy->Name.endsWith(u" Copy"_s), "it would send every file once more");
       DictionaryFile raw;
       QVERIFY(raw.open(*copy->file).ok());
       QStringList keys = raw.Keys();
@@ -73,24 +71,23 @@ class tst_TaskFiles : public QObject {
             "filename inputfolder inputfolderurl inputlogin inputpassword name outputfolder prefix replacename track "
             "warden"_s);
       UploaderTask read;
-      QVERIFY(read.open(*copy->file).ok());
-      const QStringList in{read.inputfolderURL, read.InputLogin, read.inputPassword};
-      const QStringList out{read.outputFolderUrl, read.outputLogin, read.outputPassword};
-      QCOMPARE(read.AutoMountInputFolder, input);
-      QCOMPARE(read.autoMountOutputFolder, !input);
-      QCOMPARE(in.join(u' '), input ? u"smb://in/a b SHOP\\in magenta"_s : u"  "_s);
-      QCOMPARE(out.join(u' '), input ? u"  "_s : u"smb://out out@shop paper"_s);
+      QVERIFY(read.open(*copy->file).ok() && read.AutoMountInputFolder == input && read.autoMountOutputFolder != input);
+      const QStringList in{read.inputfolderURL, read.InputLogin, read.inputPassword},
+          out{read.outputFolderUrl, read.outputLogin, read.outputPassword};
+      QCOMPARE((in + out).join(u' ').trimmed(),
+               input ? u"smb://in/a b SHOP\\in magenta"_s : u"smb://out out@shop paper"_s);
     }
   }
 
   void loadingSkipsWhatItCannotReadAndKeepsTheRest() {
-    stored(u"beta"_s, u"1.vnt"_s);
-    stored(u"Alpha"_s, u"2.VNT"_s);
-    stored(u"alpha"_s, u"3.vnt"_s);
-    stored(u"removed"_s, u"4.del"_s);
-    stored(u"other"_s, u"5.txt"_s);
-    stored(u"dotted"_s, u".6.vnt"_s);
-    stored(u"of another system"_s, u"._1.vnt"_s);
+    for (const auto& [name, file] : {std::pair(u"beta"_s, u"1.vnt"_s),
+                                     {u"Alpha"_s, u"2.VNT"_s},
+                                     {u"alpha"_s, u"3.vnt"_s},
+                                     {u"removed"_s, u"4.del"_s},
+                                     {u"other"_s, u"5.txt"_s},
+                                     {u"dotted"_s, u".6.vnt"_s},
+                                     {u"of another system"_s, u"._1.vnt"_s}})
+      stored(name, file);
     m_home->makeFolder(u"data/vantry-uploader/Uploader Tasks/folder.vnt"_s);
     const QByteArray good = TemporaryHome::readFile(taskFile(u"1.vnt"_s));
     const QString inHome = u"data/vantry-uploader/Uploader Tasks/"_s;
@@ -107,13 +104,6 @@ class tst_TaskFiles : public QObject {
     QCOMPARE(files().size(), 11);
     UploaderTask::Load();
     QCOMPARE(names().size(), 4);
-  }
-
-  void aTaskFolderThatIsAFileIsSaid() {
-    m_home->writeFile(u"data/vantry-uploader/Uploader Tasks"_s, "not a folder");
-    UploaderTask::Load();
-    QVERIFY(names().isEmpty());
-    QCOMPARE(Problems::present().value(0).kind, Problem::Kind::TaskFolderUnreadable);
   }
 
   void aTaskFolderThatIsReadOnlyOrGoneSaysSoAndLosesNothing() {
@@ -139,6 +129,10 @@ class tst_TaskFiles : public QObject {
     QVERIFY(::chmod(folder, 0700) == 0 && QDir(QFile::decodeName(folder)).removeRecursively());
     QVERIFY(!UploaderTask::duplicateTask(task, &copying) && !copying.ok());
     QCOMPARE(names(), QStringList{u"Press"_s});
+    m_home->writeFile(u"data/vantry-uploader/Uploader Tasks"_s, "a file in place of the folder");
+    UploaderTask::Load();
+    QVERIFY(names().isEmpty());
+    QCOMPARE(Problems::present().value(0).kind, Problem::Kind::TaskFolderUnreadable);
   }
 
   void removingTakesTwoStepsAndAnEditThePlaceOfATaskThatWasLoadedAnew() {

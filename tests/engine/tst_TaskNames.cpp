@@ -32,10 +32,7 @@ class tst_TaskNames : public QObject {
         {".txt", "txt", "", "scan.txt", false},
         {"", "a", "", "aaa", false},
         {".txt", "a?c", "", "abc.txt", false},
-        {".txt", "\xC3\xBC", "",
-         "\xC3\x9C"
-         "ber.txt",
-         true},
+        {".txt", "\u00FC", "", "\u00DCber.txt", true},
         // Pieces between stars come in order and do not overlap; blank ones don't count.
         {".txt", "a*", "", "bab.txt", true},
         {".txt", "a*b", "", "xaxbx.txt", true},

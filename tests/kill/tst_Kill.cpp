@@ -2,9 +2,7 @@
 // file stands under a visible name, and what was due has been sent.
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QProcess>
-#include <QTest>
 
 #include "platform/SpecialFolder.h"
 #include "storage/Preferences.h"
@@ -13,6 +11,9 @@
 #include "support/TestRunner.h"
 
 using namespace Qt::Literals::StringLiterals;
+
+static const QMap<QString, QByteArray> Contents{
+    {u"a.txt"_s, QByteArray(70'000, 'a')}, {u"b.txt"_s, "b"}, {u"c.txt"_s, "c"}};
 
 class tst_Kill : public QObject {
   Q_OBJECT
@@ -29,15 +30,15 @@ class tst_Kill : public QObject {
                           bench.service.url()};
     if (n > 0)
       arguments =
-          QStringList{u"-f"_s, u"-qq"_s,           u"-o"_s, u"/dev/null"_s,
-                      u"-e"_s, u"trace="_s + call, u"-e"_s, u"inject=%1:signal=SIGKILL:when=%2"_s.arg(call).arg(n)} +
+          u"strace -f -qq -o /dev/null -e trace=%1 -e inject=%1:signal=SIGKILL:when=%2"_s.arg(call).arg(n).split(u' ') +
           arguments;
     auto environment = QProcessEnvironment::systemEnvironment();
     // A leak report can't be made under a tracer, and has no meaning for a process that is killed.
     environment.insert(u"ASAN_OPTIONS"_s, environment.value(u"ASAN_OPTIONS"_s) + u":detect_leaks=0"_s);
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(n > 0 ? u"strace"_s : arguments.takeFirst(), arguments);
+    const QString program = arguments.takeFirst();
+    process.start(program, arguments);
     if (!process.waitForFinished(300'000)) qFatal("%s", qPrintable(process.errorString()));
     // strace ends as its child did, by the same signal.
     return {process.exitStatus() == QProcess::CrashExit || process.exitCode() == 128 + 9, process.exitCode(),
@@ -45,7 +46,7 @@ class tst_Kill : public QObject {
   }
 
   /// A home with two tasks and three due files; one of the tasks deletes what it has sent.
-  static void prepare(EngineBench& bench, QMap<QString, QByteArray>& contents) {
+  static void prepare(EngineBench& bench) {
     for (const QString& name : {u"Deleting"_s, u"Keeping"_s}) {
       const TaskPointer task = bench.makeTask(name);
       task->DeleteAfterSave = name == u"Deleting"_s;
@@ -54,10 +55,8 @@ class tst_Kill : public QObject {
       QVERIFY(task->save(UploaderTask::TaskDirectory().Child(name + u".vnt"_s)));
     }
     QVERIFY(VantryUtil::prefs->save());
-    contents = {{u"a.txt"_s, QByteArray(70'000, 'a')}, {u"b.txt"_s, "b"}, {u"c.txt"_s, "c"}};
-    bench.drop(u"a.txt"_s, contents[u"a.txt"_s], u"in-Deleting"_s);
-    bench.drop(u"b.txt"_s, contents[u"b.txt"_s], u"in-Keeping"_s);
-    bench.drop(u"c.txt"_s, contents[u"c.txt"_s], u"in-Keeping"_s);
+    for (const QString& name : Contents.keys())
+      bench.drop(name, Contents[name], name == u"a.txt"_s ? u"in-Deleting"_s : u"in-Keeping"_s);
   }
 
  private slots:
@@ -74,8 +73,7 @@ class tst_Kill : public QObject {
     int kills = 0;
     for (int n = 1;; n += step) {
       EngineBench bench;
-      QMap<QString, QByteArray> contents;
-      prepare(bench, contents);
+      prepare(bench);
       const End first = start(bench, call, n);
       if (!first.killed) {
         QVERIFY2(first.exitCode == 0, first.output.constData());
@@ -87,19 +85,12 @@ class tst_Kill : public QObject {
       QVERIFY2(!second.killed && second.exitCode == 0, at.constData());
       Sql log(SpecialFolder::ApplicationData().Child(u"VantryUploader.db"_s).NativePath());
       QCOMPARE(log.text("pragma integrity_check; select count(*) > 0 from log"), u"ok 1"_s);
-      for (auto it = contents.cbegin(); it != contents.cend(); ++it) {
-        bool arrived = false;
-        for (const PracticeReceipt& receipt : bench.service.receipts())
-          if (receipt.name == it.key()) {
-            QCOMPARE(receipt.content, it.value());
-            arrived = true;
-          }
-        QVERIFY2(arrived, at.constData());
-      }
+      for (const PracticeReceipt& receipt : bench.service.receipts()) QCOMPARE(receipt.content, Contents[receipt.name]);
+      for (const QString& name : Contents.keys()) QVERIFY2(bench.received().contains(name), at.constData());
       for (const QString& folder : {u"out-Deleting"_s, u"out-Keeping"_s})
         for (const QString& file : bench.files(folder)) {
           const QByteArray copy = TemporaryHome::readFile(bench.home.path(folder + u'/' + file));
-          QVERIFY2(contents.values().contains(copy), (at + " half a copy: " + file.toUtf8()).constData());
+          QVERIFY2(Contents.values().contains(copy), (at + " half a copy: " + file.toUtf8()).constData());
         }
       QVERIFY2(!bench.files(u"in-Deleting"_s).contains(u"a.txt"_s), at.constData());
       QCOMPARE(bench.files(u"in-Keeping"_s), (QStringList{u"b.txt"_s, u"c.txt"_s}));

@@ -5,7 +5,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <QDir>
 #include <QFile>
 #include <QStandardPaths>
 #include <csignal>
@@ -19,31 +18,18 @@ void bindChild(QProcess& process) {
   });
 }
 
-void writeFile(const QString& path, const QByteArray& text) {
-  QFile file(path);
-  if (!file.open(QIODevice::WriteOnly) || file.write(text) < 0) qFatal("cannot write %s", qPrintable(path));
-}
-
 PrivateSession::PrivateSession() {
-  const QString services = m_dir.filePath(u"services"_s);
-  QDir().mkpath(services);
-  QFile::copy(u"/usr/share/dbus-1/services/org.gtk.vfs.Daemon.service"_s, services + u"/org.gtk.vfs.Daemon.service"_s);
-  QDir().mkpath(m_dir.filePath(u"run"_s));
-  QFile::setPermissions(m_dir.filePath(u"run"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-  writeFile(m_dir.filePath(u"bus.conf"_s),
-            uR"(<busconfig>
+  const QString services = m_home.makeFolder(u"services"_s), name = u"/org.gtk.vfs.Daemon.service"_s;
+  QFile::copy(u"/usr/share/dbus-1/services"_s + name, services + name);
+  const QString settings = m_home.writeFile(u"bus.conf"_s,
+                                            uR"(<busconfig>
 <type>session</type><listen>unix:path=%1/bus</listen><auth>EXTERNAL</auth><servicedir>%2</servicedir>
 <policy context="default"><allow send_destination="*" eavesdrop="true"/><allow eavesdrop="true"/><allow own="*"/></policy>
-</busconfig>)"_s.arg(m_dir.path(), services)
-                .toUtf8());
-  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-  environment.insert(u"XDG_RUNTIME_DIR"_s, m_dir.filePath(u"run"_s));
-  environment.insert(u"HOME"_s, m_dir.path());
-  m_bus.setProcessEnvironment(environment);
+</busconfig>)"_s.arg(m_home.path(), services)
+                                                .toUtf8());
   m_bus.setProcessChannelMode(QProcess::ForwardedErrorChannel);
   bindChild(m_bus);
-  m_bus.start(u"dbus-daemon"_s,
-              {u"--config-file="_s + m_dir.filePath(u"bus.conf"_s), u"--nofork"_s, u"--print-address=1"_s});
+  m_bus.start(u"dbus-daemon"_s, {u"--config-file="_s + settings, u"--nofork"_s, u"--print-address=1"_s});
   if (!m_bus.waitForStarted() || !m_bus.waitForReadyRead(10'000)) qFatal("the session bus doesn't start");
   qputenv("DBUS_SESSION_BUS_ADDRESS", m_bus.readLine().trimmed());
 }
@@ -55,7 +41,7 @@ void PrivateSession::unmount(const QString& url) {
 }
 
 PrivateSession::~PrivateSession() {
-  QProcess::execute(u"fusermount3"_s, {u"-u"_s, u"-z"_s, u"-q"_s, m_dir.filePath(u"run/gvfs"_s)});
+  QProcess::execute(u"fusermount3"_s, {u"-u"_s, u"-z"_s, u"-q"_s, m_home.path(u"run/gvfs"_s)});
   m_bus.terminate();  // the mount service ends with its bus
   m_bus.waitForFinished(10'000);
 }

@@ -3,11 +3,11 @@
 // for the whole program, as the mount library keeps the first that it meets.
 
 #include <QProcess>
-#include <QTemporaryDir>
+
+#include "support/TemporaryHome.h"
 
 /// Makes a child end with this program, and lead a group of its own.
 void bindChild(QProcess& process);
-void writeFile(const QString& path, const QByteArray& text);
 
 class PrivateSession {
  public:
@@ -20,6 +20,6 @@ class PrivateSession {
   static void unmount(const QString& url);
 
  private:
-  QTemporaryDir m_dir;
+  TemporaryHome m_home;
   QProcess m_bus;
 };

@@ -18,6 +18,11 @@ using namespace Qt::Literals::StringLiterals;
 static QString login() { return QString::fromLocal8Bit(::getpwuid(::getuid())->pw_name); }
 static const QString Password = u"ink & paper"_s;
 
+static void writeFile(const QString& path, const QByteArray& text) {
+  QFile file(path);
+  if (!file.open(QIODevice::WriteOnly) || file.write(text) < 0) qFatal("cannot write %s", qPrintable(path));
+}
+
 SambaServer::SambaServer() {
   {
     QTcpServer port;
@@ -82,9 +87,6 @@ void SambaServer::stop() {
   signalAll(SIGKILL);
   m_server.waitForFinished(10'000);
 }
-
-void SambaServer::freeze() { signalAll(SIGSTOP); }
-void SambaServer::thaw() { signalAll(SIGCONT); }
 
 QString SambaServer::url() const { return u"smb://127.0.0.1:%1/Print Data"_s.arg(m_port); }
 

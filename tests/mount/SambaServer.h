@@ -4,6 +4,7 @@
 
 #include <QProcess>
 #include <QTemporaryDir>
+#include <csignal>
 
 #include "platform/Mount.h"
 
@@ -15,9 +16,9 @@ class SambaServer {
   SambaServer& operator=(const SambaServer&) = delete;
 
   void start();
-  void stop();    ///< connections break
-  void freeze();  ///< it answers nothing, and nothing breaks
-  void thaw();
+  void stop();                           ///< connections break
+  void freeze() { signalAll(SIGSTOP); }  ///< it answers nothing, and nothing breaks
+  void thaw() { signalAll(SIGCONT); }
 
   [[nodiscard]] QString url() const;           ///< with the blank as it is
   [[nodiscard]] MountRequest request() const;  ///< with the login, and the blank escaped

@@ -8,11 +8,7 @@ int main(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
   const QString missing = PrivateSession::missing();
   if (!missing.isEmpty()) {
-    std::printf(
-        "********************************************************************\n"
-        "NOT TESTED: mounting real shares. %s.\n"
-        "********************************************************************\n",
-        qPrintable(missing));
+    std::printf("NOT TESTED: mounting real shares. %s.\n", qPrintable(missing));
     return 77;  // as CMakeLists.txt tells ctest
   }
   const PrivateSession session;

@@ -1,7 +1,6 @@
 // Whole tasks whose folders lie on a real share: mounted by the engine, sent, copied back, and through an outage.
 
 #include <QDir>
-#include <QTest>
 
 #include "PrivateSession.h"
 #include "SambaServer.h"
@@ -44,15 +43,11 @@ class tst_ShareToShare : public QObject {
     QStringList names(const QString& folder) const {
       return QDir(server.folder() + u'/' + folder).entryList(QDir::Files | QDir::Hidden, QDir::Name);
     }
-    /// Starts run after run until `done`, as the window's timer does.
-    template <typename Done>
-    static bool runUntil(const Done& done) {
-      const auto step = [&] {
+    static bool runUntil(const std::function<bool()>& done) {
+      return EngineBench::runUntil([&done] {
         UploaderTask::setTriedAutoMount(false);  // the pause has rows of its own
-        if (!done()) UploadThread::Start();
         return done();
-      };
-      return QTest::qWaitFor(step, 60'000);
+      });
     }
     bool runUntilReceived(int count) const {
       return runUntil([&] { return bench.received().size() >= count; });

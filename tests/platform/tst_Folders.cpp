@@ -105,11 +105,13 @@ class tst_Folders : public QObject {
     QCOMPARE(m_folder->Child(u"scan.txt"_s).Length(), names[2].size());
   }
 
-  void onlyReadablePlainFilesWithContentAreFound() {
+  void onlyReadablePlainFilesWithContentAreFoundAndFoldersThatCannotBeListedAreTold() {
     write({"plain", "forbidden", "empty"});
     m_home->writeFile(u"in/folder/below"_s, "x");
     m_home->writeFile(u"in/empty"_s, "");
-    ::chmod(m_folder->Child(u"forbidden"_s).bytes().constData(), 0);
+    m_home->makeFolder(u"in/closed folder"_s);
+    for (const char* const name : {"forbidden", "closed folder"})
+      ::chmod(m_folder->ChildBytes(name).bytes().constData(), 0);
     for (const auto& name : {"plain", "folder", "link to loop", "gone", "fifo", "forbidden"})
       QCOMPARE(::symlink(name, m_folder->ChildBytes("link to "_ba + name).bytes().constData()), 0);
     QCOMPARE(::symlink("loop", m_folder->ChildBytes("loop").bytes().constData()), 0);
@@ -121,6 +123,8 @@ class tst_Folders : public QObject {
     ::close(fd);
     const Unprivileged user(m_home->path());
     QCOMPARE(namesOf({}), (QList<QByteArray>{"link to plain", "plain"}));
+    for (const auto& [name, error] : {std::pair("gone", ENOENT), {"plain", ENOTDIR}, {"closed folder", EACCES}})
+      QCOMPARE(scanFolder(m_folder->ChildBytes(name), {}).result.error, error);
   }
 
   // Longer than what the kernel hands out at once, so that no name is lost where one piece ends.
@@ -133,14 +137,6 @@ class tst_Folders : public QObject {
     rules.stopRequested = [asked = 0]() mutable { return ++asked > 10; };
     const auto stopped = scanFolder(*m_folder, rules);
     QVERIFY(stopped.result.error == ECANCELED && stopped.files.size() <= 10);
-  }
-
-  void aFolderThatCannotBeListedIsToldSo() {
-    write({"file"});
-    ::chmod(QFile::encodeName(m_home->makeFolder(u"in/forbidden"_s)).constData(), 0);
-    const Unprivileged user(m_home->path());
-    for (const auto& [name, error] : {std::pair(u"gone"_s, ENOENT), {u"file"_s, ENOTDIR}, {u"forbidden"_s, EACCES}})
-      QCOMPARE(scanFolder(m_folder->Child(name), {}).result.error, error);
   }
 
  private:

@@ -83,21 +83,6 @@ class tst_SafeFile : public QObject {
              2);
   }
 
-  void writingInPiecesReplacesTheFileOnlyWhenAllHaveCome() {
-    QList<QByteArray> pieces{"new ", "content"};
-    bool brokenOff = true;
-    const auto next = [&]() -> std::optional<QByteArray> {
-      if (pieces.isEmpty() && brokenOff) return std::nullopt;
-      return pieces.isEmpty() ? QByteArray() : pieces.takeFirst();
-    };
-    QCOMPARE(writeFileInPieces(*m_written, next).error, ECANCELED);
-    verifyWritten("old");
-    brokenOff = false;
-    pieces = {"new ", "content"};
-    QVERIFY(writeFileInPieces(*m_written, next).ok());
-    verifyWritten("new content");
-  }
-
   void aWrittenFileIsPrivateACopyIsNotAndALinkStays() {
     ::chmod(m_written->bytes().constData(), 0666);
     QVERIFY(QFile::link(m_written->NativePath(), m_home->path(u"link"_s)));

@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QProcess>
 #include <QSignalSpy>
-#include <QTest>
 #include <thread>
 
 #include "SingleInstance.h"
@@ -20,76 +19,34 @@ class tst_Program : public QObject {
  private slots:
   void aSecondStartShowsTheFirstOnesWindowAndEnds() {
     const TemporaryHome home;
-    const FolderItem folder = home.item(u"data/vantry-uploader"_s);
-    QVERIFY(SpecialFolder::createPrivate(folder).ok());
+    const FolderItem folder = home.item(u"data/vantry-uploader"_s), other = home.item(u"other/vantry-uploader"_s);
+    QVERIFY(SpecialFolder::createPrivate(folder).ok() && SpecialFolder::createPrivate(other).ok());
     SingleInstance first(folder);
     QSignalSpy shown(&first, &SingleInstance::showRequested);
     QCOMPARE(first.start(), SingleInstance::Start::First);
-    std::atomic<int> answer{-1};
-    std::thread second([&] { answer = static_cast<int>(SingleInstance(folder).start()); });
-    QTRY_COMPARE_WITH_TIMEOUT(shown.count(), 1, 60'000);
+    std::atomic<SingleInstance::Start> answer{SingleInstance::Start::Silent};
+    std::thread second([&] { answer = SingleInstance(folder).start(); });
+    QTRY_COMPARE(shown.count(), 1);
     second.join();
-    QCOMPARE(answer.load(), static_cast<int>(SingleInstance::Start::HandedOver));
-
-    const FolderItem other = home.item(u"other/vantry-uploader"_s);
-    QVERIFY(SpecialFolder::createPrivate(other).ok());
+    QCOMPARE(answer.load(), SingleInstance::Start::HandedOver);
     QCOMPARE(SingleInstance(other).start(), SingleInstance::Start::First);
-  }
-
-  void aFirstThatDoesNotAnswerIsNotWaitedForLong() {
-    const TemporaryHome home;
-    const FolderItem folder = home.item(u"data"_s);
-    QVERIFY(SpecialFolder::createPrivate(folder).ok());
-    SingleInstance first(folder);  // whose event loop doesn't turn
-    QCOMPARE(first.start(), SingleInstance::Start::First);
+    // From now on the first one's event loop doesn't turn.
     QElapsedTimer timer;
     timer.start();
     QCOMPARE(SingleInstance(folder).start(), SingleInstance::Start::Silent);
     QVERIFY(timer.elapsed() < 20'000);
+    home.writeFile(u"file"_s, "can't be locked, which is not the same as in use");
+    QCOMPARE(SingleInstance(home.item(u"file"_s)).start(), SingleInstance::Start::Forbidden);
   }
 
-  void aFolderThatCannotBeLockedIsToldFromOneInUse() {
-    const TemporaryHome home;
-    home.writeFile(u"data"_s, "a file");
-    QCOMPARE(SingleInstance(home.item(u"data"_s)).start(), SingleInstance::Start::Forbidden);
-  }
-
-  void damagedStoresDoNotKeepTheProgramFromRunning_data() {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("setAside");  // pattern of a name that appears beside it; empty if none shall
-    QTest::newRow("first start") << QString() << QString();
-    QTest::newRow("damaged preferences") << u"config/vantry-uploader/VTUploaderAdmin.pref"_s
-                                         << u"VTUploaderAdmin damaged*"_s;
-    QTest::newRow("damaged log") << u"data/vantry-uploader/VantryUploader.db"_s << u"VantryUploader damaged*"_s;
-    QTest::newRow("damaged task") << u"data/vantry-uploader/Uploader Tasks/x.vnt"_s << QString();
-    QTest::newRow("a file in place of the task folder") << u"data/vantry-uploader/Uploader Tasks"_s << QString();
-  }
-  void damagedStoresDoNotKeepTheProgramFromRunning() {
-    QFETCH(QString, file);
-    QFETCH(QString, setAside);
+  void theProgramStartsInTheUsersLanguageOverDamagedStores() {
     const TemporaryHome home;
     const QByteArray damage(5000, '\x5a');
-    if (!file.isEmpty()) home.writeFile(file, damage);
-    QProcess program;
-    program.start(QCoreApplication::applicationDirPath() + u"/vantry-uploader"_s, {});
-    QVERIFY(program.waitForStarted(60'000));
-    const QString database = home.path(u"data/vantry-uploader/VantryUploader.db"_s);
-    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(database) && TemporaryHome::readFile(database).startsWith("SQLite"), 60'000);
-    if (!setAside.isEmpty()) {
-      const QDir folder(QFileInfo(home.path(file)).path());
-      QTRY_COMPARE_WITH_TIMEOUT(folder.entryList({setAside}).size(), 1, 60'000);
-      QCOMPARE(TemporaryHome::readFile(folder.filePath(folder.entryList({setAside}).first())), damage);
-    } else if (!file.isEmpty()) {
-      QCOMPARE(TemporaryHome::readFile(home.path(file)), damage);
-    }
-    program.terminate();
-    QVERIFY(program.waitForFinished(60'000));
-    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(program.exitCode(), 0);
-  }
-
-  void theProgramStartsInTheUsersLanguage() {
-    const TemporaryHome home;
+    const QString task = home.writeFile(u"data/vantry-uploader/Uploader Tasks/x.vnt"_s, damage);
+    // Each with the pattern of the name under which it is set aside.
+    const std::pair<QString, QString> damaged[] = {
+        {home.writeFile(u"config/vantry-uploader/VTUploaderAdmin.pref"_s, damage), u"VTUploaderAdmin damaged*"_s},
+        {home.writeFile(u"data/vantry-uploader/VantryUploader.db"_s, damage), u"VantryUploader damaged*.db"_s}};
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"LANGUAGE"_s, u"fi:pt_PT:de"_s);
@@ -100,9 +57,18 @@ class tst_Program : public QObject {
     const auto speaks = [&] {
       return (said += program.readAllStandardError()).contains("\nLanguage table vantry_pt_BR in");
     };
-    QTRY_VERIFY_WITH_TIMEOUT(speaks(), 60'000);
-    program.kill();
-    QVERIFY(program.waitForFinished());
+    QTRY_VERIFY(speaks());
+    const QString database = damaged[1].first;
+    QTRY_VERIFY(QFile::exists(database) && TemporaryHome::readFile(database).startsWith("SQLite"));
+    for (const auto& [file, pattern] : damaged) {
+      const QDir folder(QFileInfo(file).path());
+      QTRY_COMPARE(folder.entryList({pattern}).size(), 1);
+      QCOMPARE(TemporaryHome::readFile(folder.filePath(folder.entryList({pattern}).first())), damage);
+    }
+    program.terminate();
+    QVERIFY(program.waitForFinished(60'000));
+    QVERIFY(program.exitStatus() == QProcess::NormalExit && program.exitCode() == 0);
+    QCOMPARE(TemporaryHome::readFile(task), damage);
   }
 };
 

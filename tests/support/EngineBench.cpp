@@ -3,10 +3,10 @@
 #include <sqlite3.h>
 
 #include <QDir>
+#include <QTest>
 
 #include "engine/EngineClock.h"
 #include "engine/UploadThread.h"
-#include "platform/Problems.h"
 #include "platform/SpecialFolder.h"
 #include "service/VantryUtil.h"
 #include "storage/LogDatabase.h"
@@ -61,10 +61,33 @@ TaskPointer EngineBench::makeTask(const QString& name) const {
   return task;
 }
 
+TaskPointer EngineBench::listTask(const QString& name, const QString& folder, int files) const {
+  const TaskPointer task = makeTask(name);
+  task->inputFolderPath = home.makeFolder(folder);
+  for (int i = 1; i <= files; ++i) drop(u"%1%2.txt"_s.arg(name).arg(i), "x", folder);
+  UploaderTask::addTask(task);
+  return task;
+}
+
 void EngineBench::process(UploaderTask& task) {
   task.updateStatus();
   if (task.Status == UploaderTask::Fault || !task.PrepareToUpload()) return;
   task.ProcessFiles();
+}
+
+void EngineBench::passes(UploaderTask& task, int count, double seconds) {
+  for (int i = 0; i < count; ++i) {
+    clock.advance(seconds);
+    process(task);
+  }
+}
+
+bool EngineBench::runUntil(const std::function<bool()>& done) {
+  const auto step = [&] {
+    if (!done()) UploadThread::Start();
+    return done();
+  };
+  return QTest::qWaitFor(step, 60'000);
 }
 
 QString EngineBench::drop(const QString& name, const QByteArray& content, const QString& folder) const {
@@ -105,4 +128,10 @@ QStringList EngineBench::received() const {
   QStringList names;
   for (const PracticeReceipt& receipt : service.receipts()) names << receipt.name;
   return names;
+}
+
+QList<Problem::Kind> EngineBench::problems() {
+  QList<Problem::Kind> kinds;
+  for (const Problem& problem : Problems::present()) kinds << problem.kind;
+  return kinds;
 }

@@ -1,7 +1,4 @@
-#include <QCoreApplication>
 #include <QSet>
-#include <QTest>
-#include <QTranslator>
 
 #include "support/TestRunner.h"
 #include "text/Placeholders.h"
@@ -10,32 +7,9 @@
 using namespace Qt::Literals::StringLiterals;
 using namespace VTULocalization;
 
-/// A language table of three keys, one of them with an empty translation.
-class ThreeTexts : public QTranslator {
- public:
-  [[nodiscard]] bool isEmpty() const override { return false; }
-  [[nodiscard]] QString translate(const char*, const char* key, const char*, int) const override {
-    if (qstrcmp(key, "VTULocalization.klAdmin") == 0) return u"Verwaltung"_s;
-    if (qstrcmp(key, "EditTaskWindow.klPrefix") == 0) return u"Präfix"_s;
-    return qstrcmp(key, "VTULocalization.klCancel") == 0 ? u""_s : QString();
-  }
-};
-
 class tst_VTULocalization : public QObject {
   Q_OBJECT
  private slots:
-  void everyEntryHasItsOwnKeyAndAText() {
-    QList<QByteArray> keys;
-    for (const Entry& entry : entries()) {
-      QVERIFY2(!keys.contains(entry.key) && *entry.english, entry.key);
-      keys << entry.key;
-    }
-    const auto span = [&keys](const char* a, const char* b) { return int(keys.indexOf(b) - keys.indexOf(a)) + 1; };
-    QCOMPARE(span("VTULocalization.klAdmin", "VTULocalization.klVerifyDateStamp"), 68);
-    QCOMPARE(span("EditTaskWindow.klAddDatetoFileName", "EditTaskWindow.klSelectTrack"), 8);
-    QCOMPARE(span("VantryUtil.E002", "VantryUtil.EUnknownError"), 30);
-  }
-
   void placeholdersAreFilled() {
     const std::tuple<QString, QStringList, QString> rows[] = {
         {u"$2, $1, $2"_s, {u"a"_s, u"b"_s}, u"b, a, b"_s},  // a translation may turn the order round
@@ -43,16 +17,6 @@ class tst_VTULocalization : public QObject {
         {u"$11 $3"_s, {u"$"_s}, u"$1 $3"_s},                // nor joined to the next digit
         {u"$0 $ $x $$1 [$2] $"_s, {u"a"_s, {}}, u"$0 $ $x $a [] $"_s}};
     for (const auto& [text, values, filled] : rows) QCOMPARE(fillPlaceholders(text, values), filled);
-  }
-
-  void aTableReplacesOnlyWhatItHolds() {
-    {
-      ThreeTexts table;
-      QVERIFY(QCoreApplication::installTranslator(&table));
-      QCOMPARE(klAdmin() + u'|' + EditTaskWindowText::klPrefix(), u"Verwaltung|Präfix"_s);
-      QCOMPARE(klBackup() + u'|' + klCancel(), u"Backup|Cancel"_s);
-    }
-    QCOMPARE(klAdmin(), u"Admin"_s);
   }
 
   void everyProblemHasALineOfItsOwn() {
