@@ -37,6 +37,7 @@ class tst_LogCommands : public QObject {
          {std::pair("Uploaded to Print Warden - Saved", false),
           {"Uploaded to Instrument - Deleted Locally", false},
           {"", false},
+          {"n/a", false},
           {"Failed to upload to Print - moved to error folder. Error Reported: E002 - Deleted Locally", true},
           {"Uploaded to Print Warden - Saved Copy not saved: no space left", true},
           {"Uploaded to Print Input file not deleted: not permitted", true},

@@ -100,6 +100,7 @@ class tst_Practice : public QObject {
                                                 {u"other content"_s, u"not arrived"_s},
                                                 {u"other destination"_s, u"wrong destination"_s},
                                                 {u"no date"_s, u"wrong name"_s},
+                                                {u"no copy"_s, u"no copy in the output folder"_s},
                                                 {u"a torn copy"_s, u"the copy differs"_s},
                                                 {u"input deleted"_s, u"the input file is gone or changed"_s}};
     for (const auto& [fault, problem] : rows) {
@@ -113,7 +114,7 @@ class tst_Practice : public QObject {
       receipt.size = delivery.content.size();
       receipt.sha256 = fault == u"other content"_s ? QByteArray(64, '0') : delivery.sha256;
       const QString archive = u"p/Archive/Falkner 106/"_s + receipt.name, input = u"p/Measurements/Falkner 106/"_s;
-      home.writeFile(archive, fault == u"a torn copy"_s ? "patch" : delivery.content);
+      if (fault != u"no copy"_s) home.writeFile(archive, fault == u"a torn copy"_s ? "patch" : delivery.content);
       if (fault != u"input deleted"_s) home.writeFile(input + delivery.name, delivery.content);
       const qsizetype times = fault == u"nothing came"_s ? 0 : fault == u"it came twice"_s ? 2 : 1;
       QCOMPARE(judge(delivery, QList<PracticeReceipt>(times, receipt)).problem, problem);
