@@ -7,7 +7,6 @@
 #include "service/HTTPSocket.h"
 #include "service/SoapReply.h"
 #include "service/VantryUtil.h"
-#include "storage/Preferences.h"
 #include "support/TestRunner.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -62,10 +61,7 @@ class Answers : public PracticeProxy {
 class tst_HTTPSocket : public QObject {
   Q_OBJECT
  private slots:
-  void cleanup() {
-    VantryUtil::setProxy({});
-    VantryUtil::allowServiceCalls();
-  }
+  void cleanup() { VantryUtil::allowServiceCalls(); }
 
   void requestBytes() {
     const QByteArray common = " HTTP/1.0\r\nAccept: */*\r\nAccept-Language: en\r\nHost: HOST\r\n";
@@ -96,17 +92,6 @@ class tst_HTTPSocket : public QObject {
     QCOMPARE(smuggling.failure().phase, Phase::Request);
   }
 
-  void theProxyInForceNeedsAnAddressAndAPort() {
-    for (const auto& [address, port] :
-         {std::pair(u" proxy.example "_s, 3128), {u"proxy.example"_s, 0}, {u" \t"_s, 9}}) {
-      VantryUtil::setProxy({address, port});
-      HTTPSecureSocket socket;
-      VantryUtil::ConfigureProxy(socket);
-      QCOMPARE(socket.HTTPProxyAddress, port == 3128 ? address : QString());
-      QCOMPARE(socket.HTTPProxyPort, port == 3128 ? port : 0);
-    }
-  }
-
   void repliesThatAreNoneAndConnectionsThatCantBe() {
     const QByteArray ok = "HTTP/1.0 200 OK\r\n";
     const Answers closes({Kind::Close}), badLength(ok + "Content-length: -1\r\n\r\nabc");
@@ -130,19 +115,28 @@ class tst_HTTPSocket : public QObject {
     }
   }
 
-  void sendingIsNoSignOfLife() {
-    QTcpServer server;
-    QVERIFY(server.listen(QHostAddress::LocalHost));
-    connect(&server, &QTcpServer::newConnection, &server, [&] {
-      QTcpSocket* const peer = server.nextPendingConnection();
-      connect(peer, &QTcpSocket::readyRead, peer, &QTcpSocket::readAll);
-    });
-    HTTPSocket socket;
-    socket.SetRequestSource(std::make_unique<PiecewiseSource>(1'000'000'000), "text/plain");
-    const QString url = u"127.0.0.1:%1"_s.arg(server.serverPort());
-    auto page = std::async(std::launch::async, [&] { return socket.Post(url, Short); });
-    QTRY_VERIFY_WITH_TIMEOUT(page.wait_for(0s) == std::future_status::ready, Long);
-    QVERIFY(socket.failure().phase == Phase::TimedOut && socket.failure().detail.contains("whole request"_L1));
+  void sendingIsNoSignOfLifeAndAResetNoEndOfAReply() {
+    for (const bool resets : {false, true}) {
+      QTcpServer server;
+      QVERIFY(server.listen(QHostAddress::LocalHost));
+      connect(&server, &QTcpServer::newConnection, &server, [&] {
+        QTcpSocket* const peer = server.nextPendingConnection();
+        if (!resets) return void(connect(peer, &QTcpSocket::readyRead, peer, &QTcpSocket::readAll));
+        peer->setReadBufferSize(1);  // what is left unread makes the end a reset
+        connect(peer, &QTcpSocket::readyRead, peer, [peer] {
+          peer->write("HTTP/1.0 200 OK\r\n\r\nabc");
+          peer->flush();
+          peer->abort();
+        });
+      });
+      HTTPSocket socket;
+      socket.SetRequestSource(std::make_unique<PiecewiseSource>(resets ? 1 : 1'000'000'000), "text/plain");
+      const QString url = u"127.0.0.1:%1"_s.arg(server.serverPort());
+      auto page = std::async(std::launch::async, [&] { return socket.Post(url, resets ? Long : Short); });
+      QTRY_VERIFY(page.wait_for(0s) == std::future_status::ready);
+      QCOMPARE(socket.failure().phase, resets ? Phase::Reply : Phase::TimedOut);
+      QVERIFY(resets || socket.failure().detail.contains("whole request"_L1));
+    }
   }
 
   void aSuccessIsBelievedOnlyOfAServiceThatGotTheRequest() {

@@ -1,5 +1,6 @@
 #include <QCryptographicHash>
 
+#include "practice/PracticeProxy.h"
 #include "practice/PracticeService.h"
 #include "service/VTInstrumentTrack.h"
 #include "service/VTTrack.h"
@@ -63,6 +64,7 @@ class tst_ServiceCalls : public QObject {
     prefs.reset();
     setAccountURL({});
     setExtraCaFile({});
+    setProxy({});
   }
 
   void theStoredLoginIsTrimmedAndAnArgumentIsNot() {
@@ -114,6 +116,17 @@ class tst_ServiceCalls : public QObject {
       QCOMPARE(m_err, instrumentJob ? u"E102"_s : u"E008"_s);
       QVERIFY(!m_watch.failure.failed());
     }
+  }
+
+  void whileTheAccountsEndpointIsBlankCallsGoToTheDefaultOne() {
+    PracticeProxy proxy;
+    QVERIFY(proxy.start());
+    proxy.setBehaviour({.kind = PracticeProxy::Behaviour::Kind::Close});
+    setProxy({u"127.0.0.1"_s, proxy.port()});
+    setAccountURL(u" "_s);
+    QVERIFY(!SendFile(u"a"_s, u"b"_s, makeFile("abc"), false, m_err, m_watch));
+    const QByteArray server = DefaultAPIEndpoint().section(u'/', 2, 2).toLatin1();
+    QVERIFY(proxy.heads().value(0).startsWith("CONNECT " + server + ' '));
   }
 
   void cataloguesAreEmptiedByAFailureAndAskedForAgain() {
