@@ -118,7 +118,7 @@ class tst_EditTaskWindowFolders : public QObject {
       errorCode = 13;
       return u" "_s;
     });
-    auto* const test = fixture.control<QPushButton>("TestAutoMountInput");
+    auto* test = fixture.control<QPushButton>("TestAutoMountInput");
     fixture.tick("AutoMountInput");
     for (const char* const control : {"TestAutoMountInput", "inputLogin", "inputFolderUrl", "InputPassword"})
       QVERIFY2(fixture.enabled(control), control);
@@ -136,16 +136,21 @@ class tst_EditTaskWindowFolders : public QObject {
       QTRY_COMPARE(told.text(), message);
     }
     QCOMPARE(asked, u"smb://host/a b me secret"_s);
-    fixture.type("inputFolderUrl", u"smb://hangs"_s);
+    fixture.tick("AutoMountInput", false);
+    QVERIFY(!fixture.enabled("inputFolderUrl"));
+    fixture.tick("autoMountOutput");
+    for (const char* const field : {"OutputFolderURL", "outputLogin", "outputPassword"})
+      fixture.type(field, u"hangs"_s);
+    test = fixture.control<QPushButton>("TestAutoMountOUtput");
     for (const bool byButton : {true, false}) {
       test->click();
       QTRY_COMPARE(begun, byButton ? 2 : 3);
       QCOMPARE(test->text(), u"Stop"_s);
-      byButton ? test->click() : fixture.tick("AutoMountInput", false);
+      byButton ? test->click() : fixture.tick("autoMountOutput", false);
       QTRY_COMPARE(ended, begun);
       QCOMPARE(test->text(), u"Test"_s);
     }
-    QVERIFY(BackgroundCall::waitForAll(60'000) && !fixture.enabled("inputFolderUrl"));
+    QVERIFY(BackgroundCall::waitForAll(60'000));
     QVERIFY(!QApplication::activeModalWidget() || QApplication::activeModalWidget() == &fixture.dialog());
   }
 
