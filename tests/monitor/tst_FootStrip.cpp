@@ -43,30 +43,26 @@ class tst_FootStrip : public QObject {
     const Problem folder{Kind::InputFolderUnreadable, u"C"_s, u"gone"_s};
     const Problem service{Kind::ServiceUnreachable, {}, u"example"_s};
     const auto words = VTULocalization::problemText;
-    const struct {
-      const char* label;
-      StripInput input;
-      Tone tone;
-      QString text, more = {};
-    } rows[] = {
-        {"what is being sent comes first", sending(250, 1000), Tone::Sending, u"Sending Press 3: f (25 %)"_s},
-        {"an empty file has a part too", sending(0, 0), Tone::Sending, u"Sending Press 3: f (0 %)"_s},
-        {"a file that grew", sending(30, 20), Tone::Sending, u"Sending Press 3: f (100 %)"_s},
-        {"line ends and turning marks", sending(1, 2, u"a\nb\u202etxt"_s), Tone::Sending,
-         u"Sending Press 3: a btxt (50 %)"_s},
-        {"a place for a value", sending(1, 2, u"$1 $3"_s), Tone::Sending, u"Sending Press 3: $1 $3 (50 %)"_s},
-        {"the most serious", with({folder, setAside, copy, service}), Tone::Wrong, words(service), u"(and 3 more)"_s},
-        {"among equals the oldest", with({upload, copy}), Tone::Wrong, words(upload), u"(and 1 more)"_s},
-        {"no login comes last", with({noLogin, setAside}), Tone::Wrong, words(setAside), u"(and 1 more)"_s},
-        {"nobody misses the service then", with({service, noLogin}), Tone::Wrong, words(noLogin), u"(and 1 more)"_s},
-        {"a task that can't use its folders", with({}, {u"D"_s}), Tone::Wrong,
+    const auto isSending = [](const char* text) { return u"Sending Press 3: "_s + QString::fromUtf8(text); };
+    const std::tuple<StripInput, Tone, QString, QString> rows[] = {
+        {sending(250, 1000), Tone::Sending, isSending("f (25 %)"), {}},  // whatever is wrong
+        {sending(0, 0), Tone::Sending, isSending("f (0 %)"), {}},
+        {sending(30, 20), Tone::Sending, isSending("f (100 %)"), {}},  // a file that grew
+        {sending(1, 2, u"$1\nb\u202etxt"_s), Tone::Sending, isSending("$1 btxt (50 %)"), {}},
+        {with({folder, setAside, copy, service}), Tone::Wrong, words(service), u"(and 3 more)"_s},
+        {with({upload, copy}), Tone::Wrong, words(upload), u"(and 1 more)"_s},  // among equals the oldest
+        {with({noLogin, setAside}), Tone::Wrong, words(setAside), u"(and 1 more)"_s},
+        {with({service, noLogin}), Tone::Wrong, words(noLogin), u"(and 1 more)"_s},  // without which it is not missed
+        {with({}, {u"D"_s}),
+         Tone::Wrong,
          u"Task \"D\" can't use its folders. Check that the input and output folders are there, connected and "
-         "writable."_s},
-        {"a fault known in more detail is told once", with({folder}, {u"C"_s}), Tone::Wrong, words(folder)},
-        {"a time of today", with({}), Tone::Well, u"All is well since 11:00"_s}};
-    for (const auto& row : rows) {
-      const StripLine line = composeStrip(row.input);
-      QVERIFY2(line.tone == row.tone && line.text == row.text && line.more == row.more, row.label);
+         "writable."_s,
+         {}},
+        {with({folder}, {u"C"_s}), Tone::Wrong, words(folder), {}},  // known in more detail it is told once
+        {with({}), Tone::Well, u"All is well since 11:00"_s, {}}};
+    for (const auto& [input, tone, text, more] : rows) {
+      const StripLine line = composeStrip(input);
+      QVERIFY2(line.tone == tone && line.text == text && line.more == more, qPrintable(line.text + line.more));
     }
     QCOMPARE(composeStrip(with({copy, upload})).details, words(copy) + u'\n' + words(upload));
     StripInput input = sending(1, 2);

@@ -1,4 +1,7 @@
+// What the replies of the service, and of the host of updates, mean.
+
 #include "service/SoapReply.h"
+#include "service/UpdateReply.h"
 #include "support/TestRunner.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -86,6 +89,23 @@ class tst_SoapReply : public QObject {
          u"M=OK"_s},
         {many(1, "<b c=\"" + QByteArray("=").repeated(5000) + "\"/>") + "</a>", u"M=OK"_s}};
     for (const auto& [bytes, expected] : rows) QCOMPARE(outcome(bytes, {std::nullopt, u"err"_s}), expected);
+  }
+
+  void anUpdateIsJudgedByItsNumbers() {
+    const auto outcome = [](QByteArray json) {
+      QString misfit;
+      const auto offer = readUpdateReply(json.replace('\'', '"'), {2, 1, 1, 15}, misfit);
+      return !offer ? misfit : offer->url.isEmpty() ? u"not newer"_s : u"newer"_s;
+    };
+    const QString odd = u"its version has not the form 1.2.3v4"_s;
+    for (const auto& [versions, expected] :
+         {std::pair(u"2.1.1v15 2.1.1v14 2.1.0v99 2.0.9v99 1.9.9v99"_s, u"not newer"_s),
+          {u"2.1.1v100 2.1.2v1 2.2.0v0 3.0.0v0 Beta2.1.1v16."_s, u"newer"_s},
+          {u"2.1.2 2.1.99999999999999999999v1"_s, odd}})
+      for (const QString& version : versions.split(u' '))
+        QCOMPARE(outcome("{'version':'" + version.toUtf8() + "','mac':'http://d/'}"), expected);
+    QCOMPARE(outcome("{'version':'3.0.0v1'}"), u"there is no text \"mac\" in it"_s);
+    QCOMPARE(outcome("{'version':3,'mac':''}"), u"there is no text \"version\" in it"_s);
   }
 
   void aSuccessIsOnlyBelievedFromAWholeExchangeWithTheService() {

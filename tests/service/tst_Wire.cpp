@@ -1,13 +1,18 @@
-// The plain parts of an exchange: Base64, addresses, names and the bytes of a reply.
+// The plain parts of an exchange: Base64, the file, addresses, names and the bytes of a reply.
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <QRandomGenerator>
 #include <future>
 #include <semaphore>
 
 #include "service/Base64.h"
+#include "service/FileSource.h"
 #include "service/NameLookup.h"
 #include "service/ReplyParser.h"
 #include "service/Url.h"
+#include "support/TemporaryHome.h"
 #include "support/TestRunner.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -45,6 +50,51 @@ class tst_Wire : public QObject {
       }
       QCOMPARE(encodeInPieces(path, all, {1, 2, 5, 49'999, 50'000, 131'073}), all.toBase64());
     }
+  }
+
+  void aFileThatIsNotInItsVersionIsNotSentToItsEnd() {
+    const TemporaryHome home;
+    const QString path = home.path(u"scan.txt"_s);
+    const auto make = [&](const QString& name) {
+      TemporaryHome::setDate(home.writeFile(name, QByteArray(100'000, 'x')), 1'700'000'000.25);
+    };
+    const auto write = [&path](const QByteArray& bytes, qint64 offset) {
+      QFile file(path);
+      return file.open(QIODevice::ReadWrite) && file.seek(offset) && file.write(bytes) == bytes.size();
+    };
+    const auto grows = [&] { return write("more", 100'000); };
+    const auto changesInItsSize = [&] { return write("y", 0); };
+    const auto becomesFifo = [&] { return QFile::remove(path) && mkfifo(qPrintable(path), 0600) == 0; };
+    const std::pair<bool, std::function<bool()>> changes[] = {
+        // while it is read, or before
+        {true, [&] { return QFile::resize(path, 60'000); }},
+        {true, [&] { return QFile::resize(path, 99'999); }},
+        {true, grows},
+        {true, [&] { return grows() && (TemporaryHome::setDate(path, 1'700'000'000.25), true); }},
+        {true, changesInItsSize},
+        {true, [&] { return make(u"other"_s), ::rename(qPrintable(home.path(u"other"_s)), qPrintable(path)) == 0; }},
+        {true, [&] { return QFile::remove(path); }},
+        {false, grows},
+        {false, changesInItsSize},
+        {false, becomesFifo}};
+    for (const auto& [opened, change] : changes) {
+      make(u"scan.txt"_s);
+      const FolderItem file = home.item(u"scan.txt"_s);
+      const FileVersion version = *versionOf(file);
+      QVERIFY(opened || change());
+      FileSourceState state;
+      FileSource source(file, version, state);
+      source.setEnvelope("<before>", "</behind>");
+      QByteArray all;
+      if (opened) QVERIFY(source.isOpen() && source.read(all) && change());
+      for (qsizetype before = -1; source.isOpen() && std::exchange(before, all.size()) != all.size();)
+        if (!source.read(all)) break;
+      QVERIFY(state.changed && !all.contains("</behind>"));
+      QFile::remove(path);
+    }
+    FileSourceState gone;
+    QVERIFY(!FileSource(home.item(u"gone.txt"_s), {5, 0}, gone).isOpen() && !gone.changed);
+    QCOMPARE(gone.failure.error, ENOENT);
   }
 
   void addressesAreTakenApartOrRefused() {
