@@ -160,9 +160,13 @@ bool DictionaryFile::write(const std::optional<FolderItem>& target) {
   }
   const QString key = currentKey();
   QByteArray content = DictionaryFormat::write(values, key);
-  const IoResult written = content.isEmpty()
-                               ? IoResult::failure(EIO, fillPlaceholders(Reasons::klEnciphering(), {target->Name()}))
-                               : writeFileSafely(*target, content, m_ops);
+  IoResult written;
+  if (content.isEmpty())
+    written = IoResult::failure(EIO, fillPlaceholders(Reasons::klEnciphering(), {target->Name()}));
+  else if (content.size() > DictionaryFormat::LargestFile)  // the next start would take it for damaged
+    written = IoResult::failure(EFBIG, fillPlaceholders(Reasons::klWriting(), {target->Name()}));
+  else
+    written = writeFileSafely(*target, content, m_ops);
   if (key.isEmpty()) wipe(content);
   const QMutexLocker lock(&m_mutex);
   m_lastFailure = written;

@@ -165,6 +165,11 @@ class tst_DictionaryFile : public QObject {
     file.setStringValue(u"Name"_s, u"three"_s);
     QVERIFY(!file.save());
     QCOMPARE(file.lastFailure().error, ENOSPC);
+    // One that could not be read again takes the place of none.
+    ops.bytesUntilFull = -1;
+    file.setStringValue(u"Name"_s, QString(DictionaryFormat::LargestFile * 3 / 4, u'x'));
+    QVERIFY(!file.save());
+    QCOMPARE(file.lastFailure().error, EFBIG);
     QCOMPARE(valueOnDisk(copy) + valueOnDisk(second), u"onetwo"_s);
   }
 
