@@ -23,6 +23,8 @@ class OrderedWork {
   OrderedWork(const OrderedWork&) = delete;
   OrderedWork& operator=(const OrderedWork&) = delete;
 
+  /// Starts the thread, as add() does where it doesn't run. Throws std::system_error if the system gives none.
+  void start();
   /// Waits while `MostWaiting` items wait already.
   void add(Item item);
   /// True once the work has thrown; what comes behind is worked on all the same.
@@ -60,10 +62,15 @@ OrderedWork<Item>::~OrderedWork() {
 }
 
 template <typename Item>
+void OrderedWork<Item>::start() {
+  if (!m_thread.joinable()) m_thread = std::thread([this] { run(); });
+}
+
+template <typename Item>
 void OrderedWork<Item>::add(Item item) {
   std::unique_lock lock(m_mutex);
   m_changed.wait(lock, [this] { return m_waiting.size() < MostWaiting; });
-  if (!m_thread.joinable()) m_thread = std::thread([this] { run(); });
+  start();
   m_waiting.push_back(std::move(item));
   m_changed.notify_all();
 }

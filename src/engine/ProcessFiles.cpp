@@ -93,6 +93,7 @@ void Batch::sendAll() {
   UploaderTask::FolderLook look = m_task.lookAtInputFolder();
   if (look.files.due.empty()) return;
   m_copiesComeBack = m_task.outputFolder && m_task.outputFolder->isSameAs(*m_task.inputFolder);
+  m_keeping.start();  // first: a file that is sent and can't be kept would go out again at every run
   Date limit = look.began;
   while (look.result.ok() && !look.files.due.empty()) {
     limit = look.began;

@@ -1,10 +1,12 @@
 // The shared list of tasks and what is done to whole tasks.
 
+#include <QSet>
 #include <algorithm>
 #include <mutex>
 
 #include "engine/AppFileTypes.h"
 #include "engine/UploaderTask.h"
+#include "platform/FolderScan.h"
 #include "platform/Problems.h"
 #include "platform/SafeFile.h"
 #include "platform/SpecialFolder.h"
@@ -22,6 +24,26 @@ bool before(const TaskPointer& a, const TaskPointer& b) {
 }
 
 constexpr int longestFileName = 255;  // bytes, on every file system we meet
+
+/// An instrument that always writes the same name has left as many numbers in a folder: from here on one listing is
+/// cheaper than asking for each, on a share by far.
+constexpr qint64 mostNamesAsked = 32;
+
+/// The numbers that stand before `name` in a folder.
+QSet<qint64> numbersTaken(const FolderItem& folder, const QByteArray& name) {
+  QSet<qint64> taken;
+  const QByteArray ending = ' ' + name;
+  FolderScanRules rules;
+  rules.nameWanted = [&](QByteArrayView found) {
+    if (!found.endsWith(ending)) return false;
+    const QByteArray digits = found.chopped(ending.size()).toByteArray();
+    const qint64 number = digits.toLongLong();
+    if (QByteArray::number(number) == digits) taken.insert(number);
+    return false;
+  };
+  (void)scanFolder(folder, rules);  // what it fails to list is asked for by name
+  return taken;
+}
 
 QString cutToBytes(QString stem, qsizetype bytes) {
   while (stem.toUtf8().size() > bytes) stem.chop(stem.back().isLowSurrogate() ? 2 : 1);
@@ -217,7 +239,13 @@ void UploaderTask::DistinctName(FolderItem& item) {
   const QString name = item.Name();
   const FolderItem folder = item.Parent();
   FolderItem candidate = folder.Child(name);
-  for (qint64 n = 1; candidate.Exists(); ++n) candidate = folder.Child(QString::number(n) + u' ' + name);
+  const QByteArray wanted = candidate.nameBytes();
+  QSet<qint64> taken;
+  for (qint64 n = 1; candidate.Exists(); ++n) {
+    if (n == mostNamesAsked) taken = numbersTaken(folder, wanted);
+    while (taken.contains(n)) ++n;
+    candidate = folder.Child(QString::number(n) + u' ' + name);
+  }
   item = candidate;
 }
 

@@ -5,6 +5,7 @@
 #include <exception>
 #include <mutex>
 #include <thread>
+#include <utility>
 
 #include "engine/EngineActivity.h"
 #include "engine/FolderWork.h"
@@ -50,6 +51,7 @@ struct Worker {
   bool alive = false;
   std::atomic<bool> busy{false};
   std::atomic<bool> stopping{false};
+  QString recorded;  // of the upload thread: task and words of what ended the last run; empty if nothing did
 };
 
 Worker& worker() {
@@ -122,8 +124,14 @@ void UploadThread::Event_Run() {
   try {
     processTasks(task);
     Problems::clear(Problem::Kind::RunFailed, {});
+    w.recorded.clear();
   } catch (const std::exception& e) {
-    recordFailure(task, QString::fromUtf8(e.what()));
+    const QString name = task ? task->Name : QString(), reason = QString::fromUtf8(e.what());
+    const QString told = name + u'\n' + reason;
+    if (std::exchange(w.recorded, told) != told)
+      recordFailure(task, reason);
+    else
+      Problems::raise(Problem::Kind::RunFailed, name, reason);  // a row every four seconds would bury all others
   }
   w.busy = false;
 }

@@ -163,7 +163,7 @@ bool DictionaryFile::write(const std::optional<FolderItem>& target) {
   IoResult written;
   if (content.isEmpty())
     written = IoResult::failure(EIO, fillPlaceholders(Reasons::klEnciphering(), {target->Name()}));
-  else if (content.size() > DictionaryFormat::LargestFile)  // open() would take it for damaged
+  else if (content.size() > DictionaryFormat::LargestFile)  // the next start would take it for damaged
     written = IoResult::failure(EFBIG, fillPlaceholders(Reasons::klWriting(), {target->Name()}));
   else
     written = writeFileSafely(*target, content, m_ops);

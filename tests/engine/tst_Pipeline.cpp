@@ -106,7 +106,7 @@ class tst_Pipeline : public QObject {
   void anExceptionInMidBatchLosesNoRowRepeatsNoFileAndEndsTheRunInGoodOrder() {
     EngineBench bench;
     QStringList names;
-    for (int i = 0; i < 20; ++i) names << u"%1.txt"_s.arg(i, 2, 10, QLatin1Char('0'));
+    for (int i = 0; i < 40; ++i) names << u"%1.txt"_s.arg(i, 2, 10, QLatin1Char('0'));
     for (const QString& name : names) bench.drop(name);
     const TaskPointer task = bench.makeTask();
     UploaderTask::addTask(task);
@@ -117,10 +117,14 @@ class tst_Pipeline : public QObject {
     });
     UploadThread::Start();
     QTRY_VERIFY(bench.notes().contains(u"Processing stopped: planted"_s) && !UploadThread::ProcessingNow());
+    const QStringList sentBefore = bench.received();
+    UploadThread::Start();  // meets it again, and adds no row of its own
+    QTRY_VERIFY(bench.received() != sentBefore && !UploadThread::ProcessingNow());
     QVERIFY(bench.received().size() < names.size() && !task->Busy);
     QCOMPARE(bench.files(u"out"_s), bench.received());
     QCOMPARE(bench.log().size(), bench.received().size() + 1);
-    QCOMPARE(bench.log().last()[u"InputFolder"_s], task->inputFolderPath);
+    QCOMPARE(bench.log()[bench.notes().indexOf(u"Processing stopped: planted"_s)][u"InputFolder"_s],
+             task->inputFolderPath);
     VantryUtil::LogEntry::setRowObserver({});
     bench.restart();
     UploaderTask::unload();

@@ -97,6 +97,26 @@ class tst_TaskNames : public QObject {
       QCOMPARE(task.Rename(name, Date::fromNanoseconds(moment.toMSecsSinceEpoch() * 1'000'000)), result);
     }
   }
+
+  void theFirstFreeNumberComesBeforeANameThatIsTakenOften() {
+    const TemporaryHome home;
+    const auto distinct = [&home] {
+      FolderItem item = home.item(u"scan.txt"_s);
+      UploaderTask::DistinctName(item);
+      return item.Name();
+    };
+    home.writeFile(u"scan.txt"_s, "x");
+    for (int number = 1; number <= 60; ++number)
+      if (number != 20 && number != 50) home.writeFile(u"%1 scan.txt"_s.arg(number), "x");
+    // Of 50 none is there: not another's, not one of other digits, and none that only ends in the name.
+    for (const QString& other : {u"50 scan.txt.txt"_s, u"050 scan.txt"_s, u"+50 scan.txt"_s, u"50 a scan.txt"_s})
+      home.writeFile(other, "x");
+    QCOMPARE(distinct(), u"20 scan.txt"_s);
+    home.writeFile(u"20 scan.txt"_s, "x");
+    QCOMPARE(distinct(), u"50 scan.txt"_s);
+    home.makeFolder(u"50 scan.txt"_s);
+    QCOMPARE(distinct(), u"61 scan.txt"_s);
+  }
 };
 
 VANTRY_TEST(tst_TaskNames);
