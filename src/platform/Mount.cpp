@@ -154,10 +154,8 @@ int codeOf(const GError* error) {
 void answerLogin(GMountOperation* operation, const char*, const char*, const char*, GAskPasswordFlags wanted,
                  gpointer data) {
   Mounting& mounting = **static_cast<MountingPointer*>(data);
-  if (mounting.asked) {  // asked again: what we gave was wrong
-    mounting.refusal = MountError::LoginRefused;
-    return g_mount_operation_reply(operation, G_MOUNT_OPERATION_ABORTED);
-  }
+  if (mounting.asked) mounting.refusal = MountError::LoginRefused;  // asked again: what we gave was wrong
+  if (mounting.refusal != 0) return g_mount_operation_reply(operation, G_MOUNT_OPERATION_ABORTED);
   mounting.asked = true;
   if (mounting.login.isEmpty() && (wanted & G_ASK_PASSWORD_ANONYMOUS_SUPPORTED)) {
     g_mount_operation_set_anonymous(operation, TRUE);
@@ -183,8 +181,11 @@ void answerLogin(GMountOperation* operation, const char*, const char*, const cha
   g_mount_operation_reply(operation, G_MOUNT_OPERATION_HANDLED);
 }
 
-void declineQuestion(GMountOperation* operation, const char*, const char**, gpointer data) {
+void declineQuestion(GMountOperation* operation, const char*, char** choices, gpointer data) {
   (*static_cast<MountingPointer*>(data))->refusal = MountError::Question;
+  // The last choice declines. For a certificate the service looks at the choice alone, and the first, its default,
+  // takes any.
+  g_mount_operation_set_choice(operation, static_cast<int>(g_strv_length(choices)) - 1);
   g_mount_operation_reply(operation, G_MOUNT_OPERATION_ABORTED);
 }
 

@@ -8,6 +8,7 @@
 #include "PrivateSession.h"
 #include "SambaServer.h"
 #include "platform/Mount.h"
+#include "practice/PracticeService.h"
 #include "support/TestRunner.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -53,6 +54,19 @@ class tst_Mount : public QObject {
     QCOMPARE(mountShare(asked, error), QString());
     qputenv("DBUS_SESSION_BUS_ADDRESS", bus);
     QTEST(error, "error");
+  }
+
+  void aServerWithACertificateThatNobodyVouchesForGetsNoLogin() {
+    PracticeService server;
+    QVERIFY(server.start());
+    MountRequest asked = m_server.request();
+    asked.url = u"davs://localhost:%1/api"_s.arg(server.port());
+    int error = 0;
+    QCOMPARE(mountShare(asked, error), QString());
+    QCOMPARE(error, MountError::Question);
+    QVERIFY(server.requests().isEmpty());
+    QVERIFY(server.connections() > 0);
+    QTRY_COMPARE(server.failedHandshakes(), server.connections());
   }
 
   void aServerThatDoesNotAnswerIsGivenUp_data() {
