@@ -33,6 +33,7 @@ class tst_Mount : public QObject {
     QTest::newRow("unknown login") << u"login"_s << MountError::LoginRefused;
     QTest::newRow("no server") << u"stopped"_s << MountError::Unreachable;
     QTest::newRow("unknown server") << u"host"_s << MountError::Unreachable;
+    QTest::newRow("unknown server of nfs") << u"nfs"_s << MountError::Unreachable;
     QTest::newRow("no such share") << u"share"_s << MountError::NotThere;
     QTest::newRow("a kind of address that nothing mounts") << u"scheme"_s << MountError::NotSupported;
     QTest::newRow("an address of the web") << u"web"_s << MountError::NotSupported;
@@ -46,6 +47,7 @@ class tst_Mount : public QObject {
     if (change == u"login"_s) asked.userName = u"nobody-here"_s;
     if (change == u"share"_s) asked.url += u"-not"_s;
     if (change == u"host"_s) asked.url.replace(u"127.0.0.1"_s, u"no-such-host.invalid"_s);
+    if (change == u"nfs"_s) asked.url = u"nfs://no-such-host.invalid/srv"_s;
     if (change == u"scheme"_s) asked.url.replace(u"smb:"_s, u"gopher:"_s);
     if (change == u"web"_s) asked.url.replace(u"smb:"_s, u"http:"_s);
     const QByteArray bus = qgetenv("DBUS_SESSION_BUS_ADDRESS");
