@@ -392,8 +392,8 @@ Dann werden alle Dateien im Eingabeordner verarbeitet, unabhängig von ihrem Alt
             <translation>der Server weist die Anmeldung ab</translation>
         </message>
         <message id="VTULocalization.klMountQuestion">
-            <source>the server asks something that only a person can answer; open it once in the file manager</source>
-            <translation>der Server fragt etwas, das nur ein Mensch beantworten kann; öffnen Sie die Freigabe einmal im Dateimanager</translation>
+            <source>the server's key or certificate is not trusted; open it once in the file manager, or install its certificate</source>
+            <translation>dem Schlüssel oder Zertifikat des Servers wird nicht vertraut; öffnen Sie die Freigabe einmal im Dateimanager, oder installieren Sie sein Zertifikat</translation>
         </message>
         <message id="VTULocalization.klMountUnreachable">
             <source>the server can't be reached</source>
@@ -412,8 +412,12 @@ Dann werden alle Dateien im Eingabeordner verarbeitet, unabhängig von ihrem Alt
             <translation>kein installiertes Programm bindet diese Art von Adresse ein</translation>
         </message>
         <message id="VTULocalization.klMountNoFolder">
-            <source>it is mounted, but not shown as a folder; install gvfs-fuse and log in again</source>
-            <translation>sie ist eingebunden, erscheint aber nicht als Ordner; installieren Sie gvfs-fuse und melden Sie sich neu an</translation>
+            <source>it is mounted, but not shown as a folder; name a share in the address, or install gvfs-fuse and log in again</source>
+            <translation>sie ist eingebunden, erscheint aber nicht als Ordner; nennen Sie in der Adresse eine Freigabe, oder installieren Sie gvfs-fuse und melden Sie sich neu an</translation>
+        </message>
+        <message id="VTULocalization.klMountServiceEnded">
+            <source>the mount service broke down over it; check the address and the login</source>
+            <translation>der Dienst zum Einbinden ist daran gescheitert; prüfen Sie Adresse und Anmeldung</translation>
         </message>
         <message id="VTULocalization.klMountFailed">
             <source>error $1</source>

@@ -392,8 +392,8 @@ Se procesarán todos los archivos de la carpeta de entrada, sea cual sea su anti
             <translation>el servidor rechaza el inicio de sesión</translation>
         </message>
         <message id="VTULocalization.klMountQuestion">
-            <source>the server asks something that only a person can answer; open it once in the file manager</source>
-            <translation>el servidor pregunta algo que solo una persona puede responder; ábralo una vez en el gestor de archivos</translation>
+            <source>the server's key or certificate is not trusted; open it once in the file manager, or install its certificate</source>
+            <translation>la clave o el certificado del servidor no es de confianza; ábralo una vez en el gestor de archivos o instale su certificado</translation>
         </message>
         <message id="VTULocalization.klMountUnreachable">
             <source>the server can't be reached</source>
@@ -412,8 +412,12 @@ Se procesarán todos los archivos de la carpeta de entrada, sea cual sea su anti
             <translation>ningún programa instalado monta ese tipo de dirección</translation>
         </message>
         <message id="VTULocalization.klMountNoFolder">
-            <source>it is mounted, but not shown as a folder; install gvfs-fuse and log in again</source>
-            <translation>está montado, pero no aparece como carpeta; instale gvfs-fuse y vuelva a iniciar la sesión</translation>
+            <source>it is mounted, but not shown as a folder; name a share in the address, or install gvfs-fuse and log in again</source>
+            <translation>está montado, pero no aparece como carpeta; indique un recurso en la dirección, o instale gvfs-fuse y vuelva a iniciar la sesión</translation>
+        </message>
+        <message id="VTULocalization.klMountServiceEnded">
+            <source>the mount service broke down over it; check the address and the login</source>
+            <translation>el servicio de montaje falló con él; compruebe la dirección y el inicio de sesión</translation>
         </message>
         <message id="VTULocalization.klMountFailed">
             <source>error $1</source>

@@ -392,8 +392,8 @@ Tous les fichiers du dossier d’entrée seront alors traités, quel que soit le
             <translation>le serveur refuse l’identifiant ou le mot de passe</translation>
         </message>
         <message id="VTULocalization.klMountQuestion">
-            <source>the server asks something that only a person can answer; open it once in the file manager</source>
-            <translation>le serveur pose une question à laquelle seule une personne peut répondre ; ouvrez-le une fois dans le gestionnaire de fichiers</translation>
+            <source>the server's key or certificate is not trusted; open it once in the file manager, or install its certificate</source>
+            <translation>la clé ou le certificat du serveur n’est pas approuvé ; ouvrez-le une fois dans le gestionnaire de fichiers, ou installez son certificat</translation>
         </message>
         <message id="VTULocalization.klMountUnreachable">
             <source>the server can't be reached</source>
@@ -412,8 +412,12 @@ Tous les fichiers du dossier d’entrée seront alors traités, quel que soit le
             <translation>aucun programme installé ne monte ce type d’adresse</translation>
         </message>
         <message id="VTULocalization.klMountNoFolder">
-            <source>it is mounted, but not shown as a folder; install gvfs-fuse and log in again</source>
-            <translation>il est monté, mais n’apparaît pas comme dossier ; installez gvfs-fuse et ouvrez une nouvelle session</translation>
+            <source>it is mounted, but not shown as a folder; name a share in the address, or install gvfs-fuse and log in again</source>
+            <translation>il est monté, mais n’apparaît pas comme dossier ; nommez un partage dans l’adresse, ou installez gvfs-fuse et ouvrez une nouvelle session</translation>
+        </message>
+        <message id="VTULocalization.klMountServiceEnded">
+            <source>the mount service broke down over it; check the address and the login</source>
+            <translation>le service de montage a échoué ; vérifiez l’adresse et l’identifiant</translation>
         </message>
         <message id="VTULocalization.klMountFailed">
             <source>error $1</source>

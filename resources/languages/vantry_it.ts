@@ -392,8 +392,8 @@ Tutti i file della cartella di input verranno elaborati, indipendentemente dalla
             <translation>il server rifiuta l’accesso</translation>
         </message>
         <message id="VTULocalization.klMountQuestion">
-            <source>the server asks something that only a person can answer; open it once in the file manager</source>
-            <translation>il server chiede qualcosa a cui può rispondere solo una persona; aprirlo una volta nel gestore di file</translation>
+            <source>the server's key or certificate is not trusted; open it once in the file manager, or install its certificate</source>
+            <translation>la chiave o il certificato del server non è attendibile; aprirlo una volta nel gestore di file, o installare il suo certificato</translation>
         </message>
         <message id="VTULocalization.klMountUnreachable">
             <source>the server can't be reached</source>
@@ -412,8 +412,12 @@ Tutti i file della cartella di input verranno elaborati, indipendentemente dalla
             <translation>nessun programma installato monta questo tipo di indirizzo</translation>
         </message>
         <message id="VTULocalization.klMountNoFolder">
-            <source>it is mounted, but not shown as a folder; install gvfs-fuse and log in again</source>
-            <translation>è montata, ma non appare come cartella; installare gvfs-fuse ed effettuare di nuovo l’accesso</translation>
+            <source>it is mounted, but not shown as a folder; name a share in the address, or install gvfs-fuse and log in again</source>
+            <translation>è montata, ma non appare come cartella; indicare una condivisione nell’indirizzo, o installare gvfs-fuse ed effettuare di nuovo l’accesso</translation>
+        </message>
+        <message id="VTULocalization.klMountServiceEnded">
+            <source>the mount service broke down over it; check the address and the login</source>
+            <translation>il servizio di montaggio si è interrotto; controllare l’indirizzo e l’accesso</translation>
         </message>
         <message id="VTULocalization.klMountFailed">
             <source>error $1</source>

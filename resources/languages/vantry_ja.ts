@@ -392,8 +392,8 @@ This will force all files in the input folder to be processed regardless of age 
             <translation>サーバーがログインを拒否しました</translation>
         </message>
         <message id="VTULocalization.klMountQuestion">
-            <source>the server asks something that only a person can answer; open it once in the file manager</source>
-            <translation>サーバーから人の確認が必要な問い合わせがありました。ファイルマネージャーで一度開いてください</translation>
+            <source>the server's key or certificate is not trusted; open it once in the file manager, or install its certificate</source>
+            <translation>サーバーの鍵または証明書が信頼されていません。ファイルマネージャーで一度開くか、証明書をインストールしてください</translation>
         </message>
         <message id="VTULocalization.klMountUnreachable">
             <source>the server can't be reached</source>
@@ -412,8 +412,12 @@ This will force all files in the input folder to be processed regardless of age 
             <translation>この種類のアドレスをマウントできるプログラムがインストールされていません</translation>
         </message>
         <message id="VTULocalization.klMountNoFolder">
-            <source>it is mounted, but not shown as a folder; install gvfs-fuse and log in again</source>
-            <translation>マウントされていますが、フォルダーとして表示されません。gvfs-fuse をインストールして、ログインし直してください</translation>
+            <source>it is mounted, but not shown as a folder; name a share in the address, or install gvfs-fuse and log in again</source>
+            <translation>マウントされていますが、フォルダーとして表示されません。アドレスに共有名を含めるか、gvfs-fuse をインストールして、ログインし直してください</translation>
+        </message>
+        <message id="VTULocalization.klMountServiceEnded">
+            <source>the mount service broke down over it; check the address and the login</source>
+            <translation>マウントサービスが異常終了しました。アドレスとログインを確認してください</translation>
         </message>
         <message id="VTULocalization.klMountFailed">
             <source>error $1</source>

@@ -392,8 +392,8 @@ Alle bestanden in de invoermap worden dan verwerkt, ongeacht hun leeftijd en ook
             <translation>de server weigert de aanmelding</translation>
         </message>
         <message id="VTULocalization.klMountQuestion">
-            <source>the server asks something that only a person can answer; open it once in the file manager</source>
-            <translation>de server vraagt iets wat alleen een mens kan beantwoorden; open de share één keer in het bestandsbeheer</translation>
+            <source>the server's key or certificate is not trusted; open it once in the file manager, or install its certificate</source>
+            <translation>de sleutel of het certificaat van de server wordt niet vertrouwd; open de share één keer in het bestandsbeheer, of installeer het certificaat</translation>
         </message>
         <message id="VTULocalization.klMountUnreachable">
             <source>the server can't be reached</source>
@@ -412,8 +412,12 @@ Alle bestanden in de invoermap worden dan verwerkt, ongeacht hun leeftijd en ook
             <translation>geen geïnstalleerd programma koppelt dit soort adres</translation>
         </message>
         <message id="VTULocalization.klMountNoFolder">
-            <source>it is mounted, but not shown as a folder; install gvfs-fuse and log in again</source>
-            <translation>ze is gekoppeld, maar verschijnt niet als map; installeer gvfs-fuse en meld u opnieuw aan</translation>
+            <source>it is mounted, but not shown as a folder; name a share in the address, or install gvfs-fuse and log in again</source>
+            <translation>ze is gekoppeld, maar verschijnt niet als map; noem een share in het adres, of installeer gvfs-fuse en meld u opnieuw aan</translation>
+        </message>
+        <message id="VTULocalization.klMountServiceEnded">
+            <source>the mount service broke down over it; check the address and the login</source>
+            <translation>de koppelservice is erop vastgelopen; controleer het adres en de aanmelding</translation>
         </message>
         <message id="VTULocalization.klMountFailed">
             <source>error $1</source>

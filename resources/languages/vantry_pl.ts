@@ -392,8 +392,8 @@ Zostaną wtedy przetworzone wszystkie pliki z folderu wejścia, niezależnie od 
             <translation>serwer odrzuca dane logowania</translation>
         </message>
         <message id="VTULocalization.klMountQuestion">
-            <source>the server asks something that only a person can answer; open it once in the file manager</source>
-            <translation>serwer pyta o coś, na co może odpowiedzieć tylko człowiek; otwórz udział raz w menedżerze plików</translation>
+            <source>the server's key or certificate is not trusted; open it once in the file manager, or install its certificate</source>
+            <translation>klucz lub certyfikat serwera nie jest zaufany; otwórz udział raz w menedżerze plików albo zainstaluj jego certyfikat</translation>
         </message>
         <message id="VTULocalization.klMountUnreachable">
             <source>the server can't be reached</source>
@@ -412,8 +412,12 @@ Zostaną wtedy przetworzone wszystkie pliki z folderu wejścia, niezależnie od 
             <translation>żaden zainstalowany program nie montuje adresów tego rodzaju</translation>
         </message>
         <message id="VTULocalization.klMountNoFolder">
-            <source>it is mounted, but not shown as a folder; install gvfs-fuse and log in again</source>
-            <translation>jest zamontowany, ale nie pojawia się jako folder; zainstaluj gvfs-fuse i zaloguj się ponownie</translation>
+            <source>it is mounted, but not shown as a folder; name a share in the address, or install gvfs-fuse and log in again</source>
+            <translation>jest zamontowany, ale nie pojawia się jako folder; podaj udział w adresie albo zainstaluj gvfs-fuse i zaloguj się ponownie</translation>
+        </message>
+        <message id="VTULocalization.klMountServiceEnded">
+            <source>the mount service broke down over it; check the address and the login</source>
+            <translation>usługa montowania uległa przy tym awarii; sprawdź adres i dane logowania</translation>
         </message>
         <message id="VTULocalization.klMountFailed">
             <source>error $1</source>

@@ -392,8 +392,8 @@ Todos os arquivos da pasta de entrada serão processados, qualquer que seja a id
             <translation>o servidor recusa o login</translation>
         </message>
         <message id="VTULocalization.klMountQuestion">
-            <source>the server asks something that only a person can answer; open it once in the file manager</source>
-            <translation>o servidor pergunta algo que só uma pessoa pode responder; abra-o uma vez no gerenciador de arquivos</translation>
+            <source>the server's key or certificate is not trusted; open it once in the file manager, or install its certificate</source>
+            <translation>a chave ou o certificado do servidor não é confiável; abra-o uma vez no gerenciador de arquivos ou instale o certificado</translation>
         </message>
         <message id="VTULocalization.klMountUnreachable">
             <source>the server can't be reached</source>
@@ -412,8 +412,12 @@ Todos os arquivos da pasta de entrada serão processados, qualquer que seja a id
             <translation>nenhum programa instalado monta esse tipo de endereço</translation>
         </message>
         <message id="VTULocalization.klMountNoFolder">
-            <source>it is mounted, but not shown as a folder; install gvfs-fuse and log in again</source>
-            <translation>está montado, mas não aparece como pasta; instale o gvfs-fuse e entre de novo na sessão</translation>
+            <source>it is mounted, but not shown as a folder; name a share in the address, or install gvfs-fuse and log in again</source>
+            <translation>está montado, mas não aparece como pasta; informe um compartilhamento no endereço, ou instale o gvfs-fuse e entre de novo na sessão</translation>
+        </message>
+        <message id="VTULocalization.klMountServiceEnded">
+            <source>the mount service broke down over it; check the address and the login</source>
+            <translation>o serviço de montagem falhou; verifique o endereço e o login</translation>
         </message>
         <message id="VTULocalization.klMountFailed">
             <source>error $1</source>

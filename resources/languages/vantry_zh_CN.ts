@@ -392,8 +392,8 @@ This will force all files in the input folder to be processed regardless of age 
             <translation>服务器拒绝登录</translation>
         </message>
         <message id="VTULocalization.klMountQuestion">
-            <source>the server asks something that only a person can answer; open it once in the file manager</source>
-            <translation>服务器提出了只有人才能回答的问题；请在文件管理器中打开一次</translation>
+            <source>the server's key or certificate is not trusted; open it once in the file manager, or install its certificate</source>
+            <translation>服务器的密钥或证书不受信任；请在文件管理器中打开一次，或安装其证书</translation>
         </message>
         <message id="VTULocalization.klMountUnreachable">
             <source>the server can't be reached</source>
@@ -412,8 +412,12 @@ This will force all files in the input folder to be processed regardless of age 
             <translation>没有已安装的程序能挂载这类地址</translation>
         </message>
         <message id="VTULocalization.klMountNoFolder">
-            <source>it is mounted, but not shown as a folder; install gvfs-fuse and log in again</source>
-            <translation>已挂载，但没有显示为文件夹；请安装 gvfs-fuse 并重新登录</translation>
+            <source>it is mounted, but not shown as a folder; name a share in the address, or install gvfs-fuse and log in again</source>
+            <translation>已挂载，但没有显示为文件夹；请在地址中写明共享名，或安装 gvfs-fuse 并重新登录</translation>
+        </message>
+        <message id="VTULocalization.klMountServiceEnded">
+            <source>the mount service broke down over it; check the address and the login</source>
+            <translation>挂载服务因此崩溃；请检查地址和登录信息</translation>
         </message>
         <message id="VTULocalization.klMountFailed">
             <source>error $1</source>

@@ -108,13 +108,16 @@ int codeInWords(const char* message) {
     if (g_str_has_suffix(message, g_strerror(number))) return code;
   for (const int number : {EAI_NONAME, EAI_AGAIN, EAI_NODATA, EAI_FAIL})
     if (g_str_has_suffix(message, ::gai_strerror(number))) return MountError::Unreachable;
-  // Another key than the one that is known of this host, in the service's own words.
+  // Another key than the one that is known of this host, and a server that hangs up: in the service's own words.
   if (g_str_equal(message, g_dgettext("gvfs", "Host key verification failed"))) return MountError::Question;
+  if (g_str_equal(message, g_dgettext("gvfs", "Connection unexpectedly went down"))) return MountError::Unreachable;
   return EIO;
 }
 
 int codeOf(const GError* error) {
   if (error->domain == G_RESOLVER_ERROR) return MountError::Unreachable;
+  // The service's process for this share has crashed.
+  if (g_error_matches(error, G_DBUS_ERROR, G_DBUS_ERROR_NO_REPLY)) return MountError::ServiceEnded;
   if (error->domain != G_IO_ERROR) return error->domain == G_DBUS_ERROR ? MountError::NoSession : EIO;
   switch (error->code) {
     case G_IO_ERROR_ALREADY_MOUNTED:
@@ -154,10 +157,8 @@ int codeOf(const GError* error) {
 void answerLogin(GMountOperation* operation, const char*, const char*, const char*, GAskPasswordFlags wanted,
                  gpointer data) {
   Mounting& mounting = **static_cast<MountingPointer*>(data);
-  if (mounting.asked) {  // asked again: what we gave was wrong
-    mounting.refusal = MountError::LoginRefused;
-    return g_mount_operation_reply(operation, G_MOUNT_OPERATION_ABORTED);
-  }
+  if (mounting.asked) mounting.refusal = MountError::LoginRefused;  // asked again: what we gave was wrong
+  if (mounting.refusal != 0) return g_mount_operation_reply(operation, G_MOUNT_OPERATION_ABORTED);
   mounting.asked = true;
   if (mounting.login.isEmpty() && (wanted & G_ASK_PASSWORD_ANONYMOUS_SUPPORTED)) {
     g_mount_operation_set_anonymous(operation, TRUE);
@@ -183,8 +184,11 @@ void answerLogin(GMountOperation* operation, const char*, const char*, const cha
   g_mount_operation_reply(operation, G_MOUNT_OPERATION_HANDLED);
 }
 
-void declineQuestion(GMountOperation* operation, const char*, const char**, gpointer data) {
+void declineQuestion(GMountOperation* operation, const char*, char** choices, gpointer data) {
   (*static_cast<MountingPointer*>(data))->refusal = MountError::Question;
+  // The last choice declines. For a certificate the service looks at the choice alone, and the first, its default,
+  // takes any.
+  g_mount_operation_set_choice(operation, static_cast<int>(g_strv_length(choices)) - 1);
   g_mount_operation_reply(operation, G_MOUNT_OPERATION_ABORTED);
 }
 
@@ -212,6 +216,24 @@ Owned<GMountOperation> makeOperation(const MountingPointer& mounting) {
   connect("ask-password", G_CALLBACK(answerLogin));
   connect("ask-question", G_CALLBACK(declineQuestion));
   return operation;
+}
+
+/// For nfs the service says that there is no such share whenever it gets no list of them, so we knock ourselves: at the
+/// port mapper's door, where it asks first, and at the server's.
+bool nobodyAnswersNfs(const char* url, GCancellable* cancellable) {
+  constexpr guint Seconds = 3;
+  const std::unique_ptr<GUri, decltype(&g_uri_unref)> uri(g_uri_parse(url, G_URI_FLAGS_PARSE_RELAXED, nullptr),
+                                                          &g_uri_unref);
+  if (!uri || !g_uri_get_host(uri.get()) || g_ascii_strcasecmp(g_uri_get_scheme(uri.get()), "nfs") != 0) return false;
+  const Owned<GSocketClient> client(g_socket_client_new());
+  g_socket_client_set_timeout(client.get(), Seconds);
+  g_socket_client_set_enable_proxy(client.get(), FALSE);
+  for (const guint16 port : {guint16(111), guint16(2049)}) {
+    const Owned<GSocketConnection> connection(
+        g_socket_client_connect_to_host(client.get(), g_uri_get_host(uri.get()), port, cancellable, nullptr));
+    if (!connection) return !g_cancellable_is_cancelled(cancellable);
+  }
+  return false;
 }
 
 /// The mount service is reached over the session bus, which must not take the program with it when it ends.
@@ -273,6 +295,8 @@ int mountHere(const MountingPointer& mounting, QByteArray& folder) {
                                   new MountingPointer(mounting));
     context.runUntil(SteadyClock::time_point::max(), [&] { return mounting->answered; });
   }
+  if (mounting->error == MountError::NotThere && nobodyAnswersNfs(mounting->url.constData(), cancellable))
+    mounting->error = MountError::Unreachable;
   if (mounting->error != 0) return mounting->refusal != 0 ? mounting->refusal : mounting->error;
   return findFolder(context, file.get(), cancellable, folder);
 }
@@ -330,10 +354,19 @@ QString shareForDisplay(const QString& url) {
   return (at < server ? url : url.left(server) + url.mid(at + 1)).trimmed();
 }
 
+QString shareForService(const QString& url) {
+  QString address = QString(url).replace(u' ', u"%20"_s);
+  const qsizetype end = address.startsWith(u"nfs://"_s, Qt::CaseInsensitive) ? address.indexOf(u'/', 6) : -1;
+  if (end < 0) return address;
+  for (const QLatin1StringView port : {":2049"_L1, ":"_L1})
+    if (QStringView(address).left(end).endsWith(port)) return address.remove(end - port.size(), port.size());
+  return address;
+}
+
 QString mountShare(const MountRequest& request, int& errorCode, int limitMs) {
   const auto deadline = SteadyClock::now() + std::chrono::milliseconds(limitMs);
   const auto mounting = std::make_shared<Mounting>();
-  mounting->url = QString(request.url).replace(u' ', u"%20"_s).toUtf8();
+  mounting->url = shareForService(request.url).toUtf8();
   mounting->login = request.userName.toUtf8();
   mounting->password = request.password.toUtf8();
   errorCode = MountError::TimedOut;

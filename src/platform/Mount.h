@@ -28,11 +28,17 @@ constexpr int NotThere = ENOENT;           ///< the server has no such share or 
 constexpr int TimedOut = ETIMEDOUT;
 constexpr int Cancelled = ECANCELED;
 constexpr int NotSupported = EPROTONOSUPPORT;  ///< nothing installed mounts that kind of address
-constexpr int NoFolder = ENODEV;               ///< mounted, but not shown as a folder: FUSE is missing
+/// Mounted, but not shown as a folder: FUSE is missing, or the address names a server and none of its shares.
+constexpr int NoFolder = ENODEV;
+constexpr int ServiceEnded = EPIPE;  ///< the mount service's process crashed over the address or the login
 }  // namespace MountError
 
 /// The address as it may be shown and logged: without what stands before an @ of its server.
 [[nodiscard]] QString shareForDisplay(const QString& url);
+
+/// The address as the mount service takes it: blanks escaped, and for nfs neither the usual port nor the bare colon of
+/// "server:/folder", which it would mount and then not find.
+[[nodiscard]] QString shareForService(const QString& url);
 
 /// Has the automounter mount what belongs at the folder `path`, by opening it: a look at the metadata of a mount point
 /// does not. Blocks for the mount; what it came to shows in the mount table. Any thread.

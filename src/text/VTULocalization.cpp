@@ -131,6 +131,8 @@ QString mountFailureText(int errorCode) {
       return klMountNotSupported();
     case MountError::NoFolder:
       return klMountNoFolder();
+    case MountError::ServiceEnded:
+      return klMountServiceEnded();
     default:  // a code of the system's
       return fillPlaceholders(klMountFailed(), {QString::number(errorCode)});
   }

@@ -1,5 +1,8 @@
 // Shares that hang or are not mounted: what they hold up, what is written, and how it heals.
 
+#include <sys/inotify.h>
+#include <unistd.h>
+
 #include <QDir>
 #include <QTemporaryDir>
 #include <cstring>
@@ -213,6 +216,29 @@ class tst_Shares : public QObject {
     const bool stopped = UploadThread::stop(20'000);
     released = true;  // or a mount that was not broken off would go on
     QVERIFY(stopped);
+  }
+
+  void anAutomounterIsWokenByOpeningItsTrap() {
+    EngineBench bench;
+    bench.drop(u"a.txt"_s);
+    const TaskPointer task = bench.makeTask();
+    task->outputFolderPath.clear();
+    const QByteArray trap = task->inputFolderPath.toUtf8();
+    const int watch = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+    QVERIFY(watch >= 0 && ::inotify_add_watch(watch, trap.constData(), IN_OPEN | IN_ONLYDIR) >= 0);
+    // As the kernel does it: a look at the folder's metadata mounts nothing, its being opened does.
+    const auto mounted = std::make_shared<std::atomic<bool>>(false);
+    setMountTable([trap, watch, mounted] {
+      char event[sizeof(inotify_event) + NAME_MAX + 1];
+      if (::read(watch, event, sizeof event) > 0) *mounted = true;
+      const QByteArray share = *mounted ? "10 9 0:9 / " + trap + " rw - nfs4 s:/ rw\n" : QByteArray();
+      return MountTable("8 0 8:1 / / rw - ext4 /dev/a rw\n9 8 0:8 / " + trap + " rw - autofs x rw\n" + share, {});
+    });
+    EngineBench::process(*task);
+    setMountTable({});
+    ::close(watch);
+    QVERIFY(*mounted);
+    QCOMPARE(bench.received(), QStringList{u"a.txt"_s});
   }
 
   void aBareMountPointIsNeitherReadNorWritten() {

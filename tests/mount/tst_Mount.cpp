@@ -6,6 +6,7 @@
 #include "PrivateSession.h"
 #include "SambaServer.h"
 #include "platform/Mount.h"
+#include "practice/PracticeService.h"
 #include "support/TestRunner.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -31,6 +32,7 @@ class tst_Mount : public QObject {
         {[](MountRequest& asked) { asked.userName = u"nobody-here"_s; }, MountError::LoginRefused},
         {[](MountRequest& asked) { asked.url.replace(u"127.0.0.1"_s, u"no-such-host.invalid"_s); },
          MountError::Unreachable},
+        {[](MountRequest& asked) { asked.url = u"nfs://no-such-host.invalid/srv"_s; }, MountError::Unreachable},
         {[](MountRequest& asked) { asked.url += u"-not"_s; }, MountError::NotThere},
         {[](MountRequest& asked) { asked.url.replace(u"smb:"_s, u"gopher:"_s); }, MountError::NotSupported},
         {[](MountRequest& asked) { asked.url.replace(u"smb:"_s, u"http:"_s); }, MountError::NotSupported},
@@ -44,6 +46,19 @@ class tst_Mount : public QObject {
       QCOMPARE(error, expected);
       qputenv("DBUS_SESSION_BUS_ADDRESS", bus);
     }
+  }
+
+  void aServerWithACertificateThatNobodyVouchesForGetsNoLogin() {
+    PracticeService server;
+    QVERIFY(server.start());
+    MountRequest asked = m_server.request();
+    asked.url = u"davs://localhost:%1/api"_s.arg(server.port());
+    int error = 0;
+    QCOMPARE(mountShare(asked, error), QString());
+    QCOMPARE(error, MountError::Question);
+    QVERIFY(server.requests().isEmpty());
+    QVERIFY(server.connections() > 0);
+    QTRY_COMPARE(server.failedHandshakes(), server.connections());
   }
 
   void aServerThatDoesNotAnswerIsGivenUp() {

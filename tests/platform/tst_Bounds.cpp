@@ -143,6 +143,16 @@ class tst_Bounds : public QObject {
       QCOMPARE(shareForDisplay(url), shown);
   }
 
+  void addressesReachTheMountServiceInItsOwnForm() {
+    for (const auto& [url, taken] : {std::pair(u"smb://host:445/a b/%20"_s, u"smb://host:445/a%20b/%20"_s),
+                                     {u"nfs://host:/srv/a b"_s, u"nfs://host/srv/a%20b"_s},
+                                     {u"NFS://[fe80::1]:2049/srv"_s, u"NFS://[fe80::1]/srv"_s},
+                                     {u"nfs://[fe80::2049]/srv:/x:2049/"_s, u"nfs://[fe80::2049]/srv:/x:2049/"_s},
+                                     {u"nfs://host:12049/srv"_s, u"nfs://host:12049/srv"_s},
+                                     {u"sftp://host:2049/srv"_s, u"sftp://host:2049/srv"_s}})
+      QCOMPARE(shareForService(url), taken);
+  }
+
   // A date limit is stored as seconds and compared with file dates in nanoseconds; it must not move on the way.
   void secondsReadBackAsTheSameMoment() {
     for (int i = 0; i < 10'000; ++i) {
