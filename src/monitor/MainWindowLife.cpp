@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QPointer>
 
+#include "monitor/SystemLogWindow.h"
 #include "monitor/VTUploaderMainWIndow.h"
 #include "platform/Problems.h"
 #include "storage/Preferences.h"
@@ -83,7 +84,9 @@ void VTUploaderMainWIndow::quitWithoutAsking() {
 }
 
 bool VTUploaderMainWIndow::Event_CancelClose() {
-  return !Messages::askYesNo(this, VTULocalization::klSureYouWantToQuit());
+  if (!Messages::askYesNo(this, VTULocalization::klSureYouWantToQuit())) return true;
+  SystemLogWindow* const log = SystemLogWindow::openOne();
+  return log && !m_quitting && !log->close();  // which asks while it exports
 }
 
 void VTUploaderMainWIndow::closeEvent(QCloseEvent* event) {

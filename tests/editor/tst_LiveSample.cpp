@@ -22,13 +22,13 @@ class tst_LiveSample : public QObject {
                                   u"b.txt – not changed since"_s})
       QVERIFY2(reasons().contains(reason), qPrintable(reasons()));
     fixture.type("FileNameExclusion", u"^draft"_s);
-    QTRY_COMPARE(fixture.sample(), u"1 of 6 files match: a.txt"_s);
+    QTRY_COMPARE(fixture.sample(), u"1 of 6 files matches: a.txt"_s);
     QVERIFY(reasons().contains(u"draft.txt – excluded"_s));
     const BoxAnswer yes(QMessageBox::Yes);
     fixture.press("ClearProcessDateStampButton");
     QTRY_COMPARE(fixture.sample(), u"2 of 6 files match: a.txt, b.txt"_s);
     fixture.type("FileName", u"b"_s);
-    QTRY_COMPARE(fixture.sample(), u"1 of 6 files match: b.txt"_s);
+    QTRY_COMPARE(fixture.sample(), u"1 of 6 files matches: b.txt"_s);
     fixture.list("Extension")->setCurrentIndex(5);
     QTRY_COMPARE(fixture.sample(), u"None of the 6 files matches"_s);
     fixture.list("Extension")->setCurrentIndex(0);

@@ -23,6 +23,12 @@ static StripInput with(const QList<Problem>& problems, const QStringList& faulty
   return input;
 }
 
+static StripInput held(StripInput input, StartPhase phase = StartPhase::Running) {
+  input.held = true;
+  input.phase = phase;
+  return input;
+}
+
 static StripInput sending(qint64 sent, qint64 total, const QString& file = u"f"_s) {
   StripInput input = with({{Kind::CopyFailed, u"A"_s, u"x.txt: disk full"_s}});
   input.activity = {true, u"Press 3"_s, file, sent, total};
@@ -63,6 +69,12 @@ class tst_FootStrip : public QObject {
          u"Task \"D\" can't use its folders. Check that the input and output folders are there, connected and "
          "writable."_s},
         {"a fault known in more detail is told once", with({folder}, {u"C"_s}), Tone::Wrong, words(folder)},
+        {"held", held(with({})), Tone::Quiet, VTULocalization::klUploadingHeld()},
+        {"held before the folders were looked at", held(with({}), StartPhase::Checking), Tone::Quiet,
+         VTULocalization::klUploadingHeld()},
+        {"not held, but not loaded yet", held(with({}), StartPhase::Connecting), Tone::Quiet,
+         VTULocalization::klStripConnecting()},
+        {"what is wrong while held", held(with({copy})), Tone::Wrong, words(copy)},
         {"a time of today", with({}), Tone::Well, u"All is well since 11:00"_s}};
     for (const auto& row : rows) {
       const StripLine line = composeStrip(row.input);
@@ -86,6 +98,7 @@ class tst_FootStrip : public QObject {
     QVERIFY(!since.update(with({{Kind::LogRowLost, {}, {}}})).isValid());
     QCOMPARE(since.update(input), Noon.addSecs(60));
     QVERIFY(!since.update(with({}, {u"D"_s})).isValid());
+    QVERIFY(since.update(input).isValid() && !since.update(held(with({}))).isValid());
   }
 };
 

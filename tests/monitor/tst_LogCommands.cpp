@@ -98,8 +98,7 @@ class tst_LogCommands : public QObject {
     QCOMPARE(log.write(QByteArray(0x10000, '\0')), 0x10000);
     log.close();
     int most = 0;
-    connect(fixture.list()->model(), &QAbstractItemModel::modelReset, this,
-            [&] { most = qMax(most, fixture.rows()); });
+    connect(fixture.list()->model(), &QAbstractItemModel::modelReset, this, [&] { most = qMax(most, fixture.rows()); });
     fixture.type("FindField", u"row"_s);
     QTRY_VERIFY2(fixture.note().contains(u"malformed"_s), qPrintable(fixture.note()));
     QVERIFY(most > 0 && fixture.rows() == 0);

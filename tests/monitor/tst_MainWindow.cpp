@@ -50,7 +50,7 @@ class tst_MainWindow : public QObject {
     fixture.select(0);
     const BoxAnswer ok(QMessageBox::Ok);
     fixture.press("DuplicateButton");
-    QVERIFY2(ok.text().startsWith(u"The task could not be duplicated. "_s) && ok.text().size() > 40,
+    QVERIFY2(ok.text().startsWith(u"The task could not be duplicated: "_s) && ok.text().size() > 40,
              qPrintable(ok.text()));
     QCOMPARE(fixture.names(), u"A"_s);
   }
