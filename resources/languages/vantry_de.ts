@@ -299,6 +299,10 @@ Dann werden alle Dateien im Eingabeordner verarbeitet, unabhängig von ihrem Alt
             <source>Checking the input folders...</source>
             <translation>Eingabeordner werden geprüft...</translation>
         </message>
+        <message id="VTULocalization.klUploadingHeld">
+            <source>Uploading is held until the task editor or the Admin window is closed and what was changed there is in force.</source>
+            <translation>Das Hochladen ruht, bis der Aufgabeneditor oder das Admin-Fenster geschlossen ist und die Änderungen gelten.</translation>
+        </message>
         <message id="VTULocalization.klStripNoLogin">
             <source>No login is stored, so nothing can be sent. Enter the service login under Admin.</source>
             <translation>Es sind keine Zugangsdaten gespeichert, daher kann nichts gesendet werden. Geben Sie sie unter Admin ein.</translation>
@@ -463,6 +467,10 @@ Es werden keine Dateien gesendet. Bitte starten Sie das Programm noch einmal; er
             <source>$1 of $2 files match: $3</source>
             <translation>Passende Dateien $1 von $2: $3</translation>
         </message>
+        <message id="VTULocalization.klSampleOneOf">
+            <source>1 of $1 files matches: $2</source>
+            <translation>1 von $1 Dateien passt: $2</translation>
+        </message>
         <message id="VTULocalization.klSampleNone">
             <source>None of the $1 files matches</source>
             <translation>Keine der $1 Dateien passt</translation>
@@ -556,8 +564,8 @@ Es werden keine Dateien gesendet. Bitte starten Sie das Programm noch einmal; er
             <translation>Die Liste wird vom Dienst abgerufen...</translation>
         </message>
         <message id="VTULocalization.klListFailed">
-            <source>The list is empty because it could not be fetched from the service. $1</source>
-            <translation>Die Liste ist leer, weil sie nicht vom Dienst abgerufen werden konnte. $1</translation>
+            <source>The list is empty because it could not be fetched from the service: $1</source>
+            <translation>Die Liste ist leer, weil sie nicht vom Dienst abgerufen werden konnte: $1</translation>
         </message>
         <message id="VTULocalization.klListRefused">
             <source>The list is empty because the service did not give it. Check the login under Admin.</source>
@@ -580,8 +588,8 @@ Es werden keine Dateien gesendet. Bitte starten Sie das Programm noch einmal; er
             <translation>Beim Speichern der Aufgabe ist ein Fehler aufgetreten</translation>
         </message>
         <message id="VTULocalization.klOldTaskNotRemoved">
-            <source>The task was saved, but the file of its earlier settings could not be removed, so these will be back as a second task at the next start. $1</source>
-            <translation>Die Aufgabe wurde gespeichert, aber die Datei mit ihren früheren Einstellungen konnte nicht entfernt werden. Diese erscheinen daher beim nächsten Start als zweite Aufgabe. $1</translation>
+            <source>The task was saved, but the file of its earlier settings could not be removed, so these will be back as a second task at the next start: $1</source>
+            <translation>Die Aufgabe wurde gespeichert, aber die Datei mit ihren früheren Einstellungen konnte nicht entfernt werden. Diese erscheinen daher beim nächsten Start als zweite Aufgabe: $1</translation>
         </message>
         <message id="VTULocalization.klEditorFailed">
             <source>The task editor could not be opened: $1</source>
@@ -719,6 +727,10 @@ In diesem Ordner werden verarbeitete Dateien abgelegt.</translation>
             <source>Please drop one file at a time.</source>
             <translation>Bitte ziehen Sie immer nur eine Datei hierher.</translation>
         </message>
+        <message id="VTULocalization.klWhyNotLocal">
+            <source>A file at a network address can't be looked at. Drop it from the folder where the share is mounted, or right-click the task and choose the file there.</source>
+            <translation>Eine Datei unter einer Netzwerkadresse kann nicht geprüft werden. Ziehen Sie sie aus dem Ordner hierher, in dem die Freigabe eingebunden ist, oder klicken Sie mit der rechten Maustaste auf die Aufgabe und wählen Sie die Datei dort.</translation>
+        </message>
         <message id="VTULocalization.klWhyClose">
             <source>Close</source>
             <translation>Schließen</translation>
@@ -742,10 +754,6 @@ In diesem Ordner werden verarbeitete Dateien abgelegt.</translation>
         <message id="VTULocalization.klWhyNotDueSeveral">
             <source>It is not sent, for these $1 reasons:</source>
             <translation>Sie wird aus diesen $1 Gründen nicht gesendet:</translation>
-        </message>
-        <message id="VTULocalization.klWhyPaused">
-            <source>Uploading is held while a task is edited or the Admin window is open.</source>
-            <translation>Das Hochladen ruht, solange eine Aufgabe bearbeitet wird oder das Admin-Fenster offen ist.</translation>
         </message>
         <message id="VTULocalization.klWhyReported">
             <source>The task reports: $1</source>
@@ -1003,11 +1011,31 @@ $1
 
 Das Datum jeder Datei wird auf jetzt gesetzt, sodass ihre Aufgabe sie beim nächsten Lauf sendet.</translation>
         </message>
+        <message id="VTULocalization.klSendOneAgainQuestion">
+            <source>Do you want to send this file again?
+
+$1
+
+Its date is set to now, so that its task sends it with its next run.</source>
+            <translation>Möchten Sie diese Datei erneut senden?
+
+$1
+
+Ihr Datum wird auf jetzt gesetzt, sodass ihre Aufgabe sie beim nächsten Lauf sendet.</translation>
+        </message>
         <message id="VTULocalization.klSendAgainNotTaken">
             <source>No task that is switched on takes these files. They will wait until one does:
 
 $1</source>
             <translation>Keine eingeschaltete Aufgabe nimmt diese Dateien. Sie warten, bis eine es tut:
+
+$1</translation>
+        </message>
+        <message id="VTULocalization.klSendOneAgainNotTaken">
+            <source>No task that is switched on takes this file. It will wait until one does:
+
+$1</source>
+            <translation>Keine eingeschaltete Aufgabe nimmt diese Datei. Sie wartet, bis eine es tut:
 
 $1</translation>
         </message>
@@ -1024,6 +1052,14 @@ $1</translation>
 
 $1</source>
             <translation>Diese Dateien werden nicht erneut gesendet, weil ihr Datum nicht gesetzt werden konnte:
+
+$1</translation>
+        </message>
+        <message id="VTULocalization.klSendOneAgainFailed">
+            <source>This file is not sent again, because its date could not be set:
+
+$1</source>
+            <translation>Diese Datei wird nicht erneut gesendet, weil ihr Datum nicht gesetzt werden konnte:
 
 $1</translation>
         </message>
@@ -1504,12 +1540,12 @@ $1</translation>
             <translation>Die Aufgabe „$1“ kann ihre Ordner nicht verwenden. Prüfen Sie, ob Eingabe- und Ausgabeordner vorhanden, verbunden und beschreibbar sind.</translation>
         </message>
         <message id="VTUploaderMainWIndow.klTaskNotDuplicated">
-            <source>The task could not be duplicated. $1</source>
-            <translation>Die Aufgabe konnte nicht dupliziert werden. $1</translation>
+            <source>The task could not be duplicated: $1</source>
+            <translation>Die Aufgabe konnte nicht dupliziert werden: $1</translation>
         </message>
         <message id="VTUploaderMainWIndow.klTaskNotRemoved">
-            <source>The task is off the list, but its file could not be removed, so it will be back at the next start. $1</source>
-            <translation>Die Aufgabe ist aus der Liste entfernt, aber ihre Datei konnte nicht gelöscht werden. Sie erscheint daher beim nächsten Start wieder. $1</translation>
+            <source>The task is off the list, but its file could not be removed, so it will be back at the next start: $1</source>
+            <translation>Die Aufgabe ist aus der Liste entfernt, aber ihre Datei konnte nicht gelöscht werden. Sie erscheint daher beim nächsten Start wieder: $1</translation>
         </message>
         <message id="VTUploaderMainWIndow.klManualNotOpened">
             <source>The browser could not be opened. The manual is at $1</source>

@@ -299,6 +299,10 @@ Se procesarán todos los archivos de la carpeta de entrada, sea cual sea su anti
             <source>Checking the input folders...</source>
             <translation>Comprobando las carpetas de entrada...</translation>
         </message>
+        <message id="VTULocalization.klUploadingHeld">
+            <source>Uploading is held until the task editor or the Admin window is closed and what was changed there is in force.</source>
+            <translation>El envío está en pausa hasta que se cierre el editor de tareas o la ventana Admin y se apliquen los cambios.</translation>
+        </message>
         <message id="VTULocalization.klStripNoLogin">
             <source>No login is stored, so nothing can be sent. Enter the service login under Admin.</source>
             <translation>No hay ningún usuario guardado, por lo que no se puede enviar nada. Introduzca el usuario del servicio en Admin.</translation>
@@ -463,6 +467,10 @@ No se está enviando ningún archivo. Inicie el programa de nuevo; si este mensa
             <source>$1 of $2 files match: $3</source>
             <translation>Archivos que coinciden $1 de $2: $3</translation>
         </message>
+        <message id="VTULocalization.klSampleOneOf">
+            <source>1 of $1 files matches: $2</source>
+            <translation>Coincide 1 de $1 archivos: $2</translation>
+        </message>
         <message id="VTULocalization.klSampleNone">
             <source>None of the $1 files matches</source>
             <translation>No coincide ninguno de los $1 archivos</translation>
@@ -556,8 +564,8 @@ No se está enviando ningún archivo. Inicie el programa de nuevo; si este mensa
             <translation>Obteniendo la lista del servicio...</translation>
         </message>
         <message id="VTULocalization.klListFailed">
-            <source>The list is empty because it could not be fetched from the service. $1</source>
-            <translation>La lista está vacía porque no se pudo obtener del servicio. $1</translation>
+            <source>The list is empty because it could not be fetched from the service: $1</source>
+            <translation>La lista está vacía porque no se pudo obtener del servicio: $1</translation>
         </message>
         <message id="VTULocalization.klListRefused">
             <source>The list is empty because the service did not give it. Check the login under Admin.</source>
@@ -580,8 +588,8 @@ No se está enviando ningún archivo. Inicie el programa de nuevo; si este mensa
             <translation>Se produjo un error al guardar esta tarea</translation>
         </message>
         <message id="VTULocalization.klOldTaskNotRemoved">
-            <source>The task was saved, but the file of its earlier settings could not be removed, so these will be back as a second task at the next start. $1</source>
-            <translation>La tarea se guardó, pero no se pudo quitar el archivo con sus ajustes anteriores, por lo que estos volverán como una segunda tarea en el próximo inicio. $1</translation>
+            <source>The task was saved, but the file of its earlier settings could not be removed, so these will be back as a second task at the next start: $1</source>
+            <translation>La tarea se guardó, pero no se pudo quitar el archivo con sus ajustes anteriores, por lo que estos volverán como una segunda tarea en el próximo inicio: $1</translation>
         </message>
         <message id="VTULocalization.klEditorFailed">
             <source>The task editor could not be opened: $1</source>
@@ -719,6 +727,10 @@ En esta carpeta se guardarán los archivos procesados.</translation>
             <source>Please drop one file at a time.</source>
             <translation>Suelte los archivos de uno en uno.</translation>
         </message>
+        <message id="VTULocalization.klWhyNotLocal">
+            <source>A file at a network address can't be looked at. Drop it from the folder where the share is mounted, or right-click the task and choose the file there.</source>
+            <translation>No se puede examinar un archivo en una dirección de red. Arrástrelo desde la carpeta donde está montado el recurso compartido, o haga clic con el botón derecho en la tarea y elija allí el archivo.</translation>
+        </message>
         <message id="VTULocalization.klWhyClose">
             <source>Close</source>
             <translation>Cerrar</translation>
@@ -742,10 +754,6 @@ En esta carpeta se guardarán los archivos procesados.</translation>
         <message id="VTULocalization.klWhyNotDueSeveral">
             <source>It is not sent, for these $1 reasons:</source>
             <translation>No se envía por estos $1 motivos:</translation>
-        </message>
-        <message id="VTULocalization.klWhyPaused">
-            <source>Uploading is held while a task is edited or the Admin window is open.</source>
-            <translation>El envío está en pausa mientras se edita una tarea o está abierta la ventana Admin.</translation>
         </message>
         <message id="VTULocalization.klWhyReported">
             <source>The task reports: $1</source>
@@ -1003,11 +1011,31 @@ $1
 
 La fecha de cada archivo pasa a ser la actual, de modo que su tarea lo envía en la próxima pasada.</translation>
         </message>
+        <message id="VTULocalization.klSendOneAgainQuestion">
+            <source>Do you want to send this file again?
+
+$1
+
+Its date is set to now, so that its task sends it with its next run.</source>
+            <translation>¿Desea enviar de nuevo este archivo?
+
+$1
+
+Su fecha pasa a ser la actual, de modo que su tarea lo envía en la próxima pasada.</translation>
+        </message>
         <message id="VTULocalization.klSendAgainNotTaken">
             <source>No task that is switched on takes these files. They will wait until one does:
 
 $1</source>
             <translation>Ninguna tarea activa toma estos archivos. Esperarán hasta que una lo haga:
+
+$1</translation>
+        </message>
+        <message id="VTULocalization.klSendOneAgainNotTaken">
+            <source>No task that is switched on takes this file. It will wait until one does:
+
+$1</source>
+            <translation>Ninguna tarea activa toma este archivo. Esperará hasta que una lo haga:
 
 $1</translation>
         </message>
@@ -1024,6 +1052,14 @@ $1</translation>
 
 $1</source>
             <translation>Estos archivos no se envían de nuevo, porque no se pudo cambiar su fecha:
+
+$1</translation>
+        </message>
+        <message id="VTULocalization.klSendOneAgainFailed">
+            <source>This file is not sent again, because its date could not be set:
+
+$1</source>
+            <translation>Este archivo no se envía de nuevo, porque no se pudo cambiar su fecha:
 
 $1</translation>
         </message>
@@ -1504,12 +1540,12 @@ $1</translation>
             <translation>La tarea «$1» no puede usar sus carpetas. Compruebe que las carpetas de entrada y salida existen, están conectadas y permiten escribir.</translation>
         </message>
         <message id="VTUploaderMainWIndow.klTaskNotDuplicated">
-            <source>The task could not be duplicated. $1</source>
-            <translation>No se pudo duplicar la tarea. $1</translation>
+            <source>The task could not be duplicated: $1</source>
+            <translation>No se pudo duplicar la tarea: $1</translation>
         </message>
         <message id="VTUploaderMainWIndow.klTaskNotRemoved">
-            <source>The task is off the list, but its file could not be removed, so it will be back at the next start. $1</source>
-            <translation>La tarea ya no está en la lista, pero no se pudo quitar su archivo, por lo que volverá en el próximo inicio. $1</translation>
+            <source>The task is off the list, but its file could not be removed, so it will be back at the next start: $1</source>
+            <translation>La tarea ya no está en la lista, pero no se pudo quitar su archivo, por lo que volverá en el próximo inicio: $1</translation>
         </message>
         <message id="VTUploaderMainWIndow.klManualNotOpened">
             <source>The browser could not be opened. The manual is at $1</source>

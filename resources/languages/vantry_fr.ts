@@ -299,6 +299,10 @@ Tous les fichiers du dossier d’entrée seront alors traités, quel que soit le
             <source>Checking the input folders...</source>
             <translation>Vérification des dossiers d’entrée...</translation>
         </message>
+        <message id="VTULocalization.klUploadingHeld">
+            <source>Uploading is held until the task editor or the Admin window is closed and what was changed there is in force.</source>
+            <translation>L’envoi est suspendu jusqu’à ce que l’éditeur de tâches ou la fenêtre Admin soit fermé et que les modifications soient appliquées.</translation>
+        </message>
         <message id="VTULocalization.klStripNoLogin">
             <source>No login is stored, so nothing can be sent. Enter the service login under Admin.</source>
             <translation>Aucun login n’est enregistré, rien ne peut donc être envoyé. Saisissez le login du service sous Admin.</translation>
@@ -463,6 +467,10 @@ Aucun fichier n’est envoyé. Redémarrez le programme ; si ce message réappa
             <source>$1 of $2 files match: $3</source>
             <translation>Fichiers retenus $1 sur $2 : $3</translation>
         </message>
+        <message id="VTULocalization.klSampleOneOf">
+            <source>1 of $1 files matches: $2</source>
+            <translation>1 fichier retenu sur $1 : $2</translation>
+        </message>
         <message id="VTULocalization.klSampleNone">
             <source>None of the $1 files matches</source>
             <translation>Aucun des $1 fichiers n’est retenu</translation>
@@ -556,8 +564,8 @@ Aucun fichier n’est envoyé. Redémarrez le programme ; si ce message réappa
             <translation>Récupération de la liste auprès du service...</translation>
         </message>
         <message id="VTULocalization.klListFailed">
-            <source>The list is empty because it could not be fetched from the service. $1</source>
-            <translation>La liste est vide, car elle n’a pas pu être récupérée auprès du service. $1</translation>
+            <source>The list is empty because it could not be fetched from the service: $1</source>
+            <translation>La liste est vide, car elle n’a pas pu être récupérée auprès du service : $1</translation>
         </message>
         <message id="VTULocalization.klListRefused">
             <source>The list is empty because the service did not give it. Check the login under Admin.</source>
@@ -580,8 +588,8 @@ Aucun fichier n’est envoyé. Redémarrez le programme ; si ce message réappa
             <translation>Une erreur est survenue lors de l’enregistrement de cette tâche</translation>
         </message>
         <message id="VTULocalization.klOldTaskNotRemoved">
-            <source>The task was saved, but the file of its earlier settings could not be removed, so these will be back as a second task at the next start. $1</source>
-            <translation>La tâche a été enregistrée, mais le fichier de ses anciens réglages n’a pas pu être supprimé ; ils réapparaîtront donc comme une deuxième tâche au prochain démarrage. $1</translation>
+            <source>The task was saved, but the file of its earlier settings could not be removed, so these will be back as a second task at the next start: $1</source>
+            <translation>La tâche a été enregistrée, mais le fichier de ses anciens réglages n’a pas pu être supprimé ; ils réapparaîtront donc comme une deuxième tâche au prochain démarrage : $1</translation>
         </message>
         <message id="VTULocalization.klEditorFailed">
             <source>The task editor could not be opened: $1</source>
@@ -719,6 +727,10 @@ Les fichiers traités y seront rangés.</translation>
             <source>Please drop one file at a time.</source>
             <translation>Veuillez ne déposer qu’un fichier à la fois.</translation>
         </message>
+        <message id="VTULocalization.klWhyNotLocal">
+            <source>A file at a network address can't be looked at. Drop it from the folder where the share is mounted, or right-click the task and choose the file there.</source>
+            <translation>Un fichier à une adresse réseau ne peut pas être examiné. Déposez-le depuis le dossier où le partage est monté, ou cliquez avec le bouton droit sur la tâche et choisissez-y le fichier.</translation>
+        </message>
         <message id="VTULocalization.klWhyClose">
             <source>Close</source>
             <translation>Fermer</translation>
@@ -742,10 +754,6 @@ Les fichiers traités y seront rangés.</translation>
         <message id="VTULocalization.klWhyNotDueSeveral">
             <source>It is not sent, for these $1 reasons:</source>
             <translation>Il n’est pas envoyé, pour ces $1 raisons :</translation>
-        </message>
-        <message id="VTULocalization.klWhyPaused">
-            <source>Uploading is held while a task is edited or the Admin window is open.</source>
-            <translation>L’envoi est suspendu tant qu’une tâche est modifiée ou que la fenêtre Admin est ouverte.</translation>
         </message>
         <message id="VTULocalization.klWhyReported">
             <source>The task reports: $1</source>
@@ -1003,11 +1011,31 @@ $1
 
 La date de chaque fichier devient la date actuelle, si bien que sa tâche l’envoie à son prochain passage.</translation>
         </message>
+        <message id="VTULocalization.klSendOneAgainQuestion">
+            <source>Do you want to send this file again?
+
+$1
+
+Its date is set to now, so that its task sends it with its next run.</source>
+            <translation>Voulez-vous renvoyer ce fichier ?
+
+$1
+
+Sa date devient la date actuelle, si bien que sa tâche l’envoie à son prochain passage.</translation>
+        </message>
         <message id="VTULocalization.klSendAgainNotTaken">
             <source>No task that is switched on takes these files. They will wait until one does:
 
 $1</source>
             <translation>Aucune tâche active ne prend ces fichiers. Ils attendront qu’une tâche le fasse :
+
+$1</translation>
+        </message>
+        <message id="VTULocalization.klSendOneAgainNotTaken">
+            <source>No task that is switched on takes this file. It will wait until one does:
+
+$1</source>
+            <translation>Aucune tâche active ne prend ce fichier. Il attendra qu’une tâche le fasse :
 
 $1</translation>
         </message>
@@ -1024,6 +1052,14 @@ $1</translation>
 
 $1</source>
             <translation>Ces fichiers ne sont pas renvoyés, car leur date n’a pas pu être modifiée :
+
+$1</translation>
+        </message>
+        <message id="VTULocalization.klSendOneAgainFailed">
+            <source>This file is not sent again, because its date could not be set:
+
+$1</source>
+            <translation>Ce fichier n’est pas renvoyé, car sa date n’a pas pu être modifiée :
 
 $1</translation>
         </message>
@@ -1504,12 +1540,12 @@ $1</translation>
             <translation>La tâche « $1 » ne peut pas utiliser ses dossiers. Vérifiez que les dossiers d’entrée et de sortie existent, sont connectés et accessibles en écriture.</translation>
         </message>
         <message id="VTUploaderMainWIndow.klTaskNotDuplicated">
-            <source>The task could not be duplicated. $1</source>
-            <translation>La tâche n’a pas pu être dupliquée. $1</translation>
+            <source>The task could not be duplicated: $1</source>
+            <translation>La tâche n’a pas pu être dupliquée : $1</translation>
         </message>
         <message id="VTUploaderMainWIndow.klTaskNotRemoved">
-            <source>The task is off the list, but its file could not be removed, so it will be back at the next start. $1</source>
-            <translation>La tâche n’est plus dans la liste, mais son fichier n’a pas pu être supprimé ; elle réapparaîtra donc au prochain démarrage. $1</translation>
+            <source>The task is off the list, but its file could not be removed, so it will be back at the next start: $1</source>
+            <translation>La tâche n’est plus dans la liste, mais son fichier n’a pas pu être supprimé ; elle réapparaîtra donc au prochain démarrage : $1</translation>
         </message>
         <message id="VTUploaderMainWIndow.klManualNotOpened">
             <source>The browser could not be opened. The manual is at $1</source>

@@ -299,6 +299,10 @@ Tutti i file della cartella di input verranno elaborati, indipendentemente dalla
             <source>Checking the input folders...</source>
             <translation>Verifica delle cartelle di input...</translation>
         </message>
+        <message id="VTULocalization.klUploadingHeld">
+            <source>Uploading is held until the task editor or the Admin window is closed and what was changed there is in force.</source>
+            <translation>L’invio è sospeso finché l’editor delle attività o la finestra Admin non è chiusa e le modifiche non sono applicate.</translation>
+        </message>
         <message id="VTULocalization.klStripNoLogin">
             <source>No login is stored, so nothing can be sent. Enter the service login under Admin.</source>
             <translation>Nessun login è memorizzato, quindi non si può inviare nulla. Inserire il login del servizio in Admin.</translation>
@@ -463,6 +467,10 @@ Non viene inviato alcun file. Riavviare il programma; se il messaggio si riprese
             <source>$1 of $2 files match: $3</source>
             <translation>File corrispondenti $1 su $2: $3</translation>
         </message>
+        <message id="VTULocalization.klSampleOneOf">
+            <source>1 of $1 files matches: $2</source>
+            <translation>1 file su $1 corrisponde: $2</translation>
+        </message>
         <message id="VTULocalization.klSampleNone">
             <source>None of the $1 files matches</source>
             <translation>Nessuno dei $1 file corrisponde</translation>
@@ -556,8 +564,8 @@ Non viene inviato alcun file. Riavviare il programma; se il messaggio si riprese
             <translation>L’elenco viene richiesto al servizio...</translation>
         </message>
         <message id="VTULocalization.klListFailed">
-            <source>The list is empty because it could not be fetched from the service. $1</source>
-            <translation>L’elenco è vuoto perché non è stato possibile ottenerlo dal servizio. $1</translation>
+            <source>The list is empty because it could not be fetched from the service: $1</source>
+            <translation>L’elenco è vuoto perché non è stato possibile ottenerlo dal servizio: $1</translation>
         </message>
         <message id="VTULocalization.klListRefused">
             <source>The list is empty because the service did not give it. Check the login under Admin.</source>
@@ -580,8 +588,8 @@ Non viene inviato alcun file. Riavviare il programma; se il messaggio si riprese
             <translation>Si è verificato un errore nel salvataggio di questa attività</translation>
         </message>
         <message id="VTULocalization.klOldTaskNotRemoved">
-            <source>The task was saved, but the file of its earlier settings could not be removed, so these will be back as a second task at the next start. $1</source>
-            <translation>L’attività è stata salvata, ma non è stato possibile rimuovere il file con le impostazioni precedenti, che al prossimo avvio ricompariranno come seconda attività. $1</translation>
+            <source>The task was saved, but the file of its earlier settings could not be removed, so these will be back as a second task at the next start: $1</source>
+            <translation>L’attività è stata salvata, ma non è stato possibile rimuovere il file con le impostazioni precedenti, che al prossimo avvio ricompariranno come seconda attività: $1</translation>
         </message>
         <message id="VTULocalization.klEditorFailed">
             <source>The task editor could not be opened: $1</source>
@@ -719,6 +727,10 @@ Qui verranno conservati i file elaborati.</translation>
             <source>Please drop one file at a time.</source>
             <translation>Trascinare un solo file alla volta.</translation>
         </message>
+        <message id="VTULocalization.klWhyNotLocal">
+            <source>A file at a network address can't be looked at. Drop it from the folder where the share is mounted, or right-click the task and choose the file there.</source>
+            <translation>Un file a un indirizzo di rete non può essere esaminato. Trascinarlo dalla cartella in cui è montata la condivisione, oppure fare clic con il tasto destro sull’attività e scegliere lì il file.</translation>
+        </message>
         <message id="VTULocalization.klWhyClose">
             <source>Close</source>
             <translation>Chiudi</translation>
@@ -742,10 +754,6 @@ Qui verranno conservati i file elaborati.</translation>
         <message id="VTULocalization.klWhyNotDueSeveral">
             <source>It is not sent, for these $1 reasons:</source>
             <translation>Non viene inviato per questi $1 motivi:</translation>
-        </message>
-        <message id="VTULocalization.klWhyPaused">
-            <source>Uploading is held while a task is edited or the Admin window is open.</source>
-            <translation>L’invio è sospeso mentre si modifica un’attività o la finestra Admin è aperta.</translation>
         </message>
         <message id="VTULocalization.klWhyReported">
             <source>The task reports: $1</source>
@@ -1003,11 +1011,31 @@ $1
 
 La data di ogni file diventa quella attuale, così la sua attività lo invia al prossimo passaggio.</translation>
         </message>
+        <message id="VTULocalization.klSendOneAgainQuestion">
+            <source>Do you want to send this file again?
+
+$1
+
+Its date is set to now, so that its task sends it with its next run.</source>
+            <translation>Inviare di nuovo questo file?
+
+$1
+
+La sua data diventa quella attuale, così la sua attività lo invia al prossimo passaggio.</translation>
+        </message>
         <message id="VTULocalization.klSendAgainNotTaken">
             <source>No task that is switched on takes these files. They will wait until one does:
 
 $1</source>
             <translation>Nessuna attività attiva prende questi file. Aspetteranno finché una lo farà:
+
+$1</translation>
+        </message>
+        <message id="VTULocalization.klSendOneAgainNotTaken">
+            <source>No task that is switched on takes this file. It will wait until one does:
+
+$1</source>
+            <translation>Nessuna attività attiva prende questo file. Aspetterà finché una lo farà:
 
 $1</translation>
         </message>
@@ -1024,6 +1052,14 @@ $1</translation>
 
 $1</source>
             <translation>Questi file non vengono inviati di nuovo, perché la loro data non può essere modificata:
+
+$1</translation>
+        </message>
+        <message id="VTULocalization.klSendOneAgainFailed">
+            <source>This file is not sent again, because its date could not be set:
+
+$1</source>
+            <translation>Questo file non viene inviato di nuovo, perché la sua data non può essere modificata:
 
 $1</translation>
         </message>
@@ -1504,12 +1540,12 @@ $1</translation>
             <translation>L’attività «$1» non può usare le sue cartelle. Controllare che le cartelle di input e output esistano, siano connesse e scrivibili.</translation>
         </message>
         <message id="VTUploaderMainWIndow.klTaskNotDuplicated">
-            <source>The task could not be duplicated. $1</source>
-            <translation>Impossibile duplicare l’attività. $1</translation>
+            <source>The task could not be duplicated: $1</source>
+            <translation>Impossibile duplicare l’attività: $1</translation>
         </message>
         <message id="VTUploaderMainWIndow.klTaskNotRemoved">
-            <source>The task is off the list, but its file could not be removed, so it will be back at the next start. $1</source>
-            <translation>L’attività non è più nell’elenco, ma non è stato possibile rimuoverne il file; ricomparirà quindi al prossimo avvio. $1</translation>
+            <source>The task is off the list, but its file could not be removed, so it will be back at the next start: $1</source>
+            <translation>L’attività non è più nell’elenco, ma non è stato possibile rimuoverne il file; ricomparirà quindi al prossimo avvio: $1</translation>
         </message>
         <message id="VTUploaderMainWIndow.klManualNotOpened">
             <source>The browser could not be opened. The manual is at $1</source>

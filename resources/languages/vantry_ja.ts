@@ -299,6 +299,10 @@ This will force all files in the input folder to be processed regardless of age 
             <source>Checking the input folders...</source>
             <translation>入力フォルダーを確認しています...</translation>
         </message>
+        <message id="VTULocalization.klUploadingHeld">
+            <source>Uploading is held until the task editor or the Admin window is closed and what was changed there is in force.</source>
+            <translation>タスクエディターまたは管理ウィンドウが閉じられ、変更が反映されるまで、アップロードは停止します。</translation>
+        </message>
         <message id="VTULocalization.klStripNoLogin">
             <source>No login is stored, so nothing can be sent. Enter the service login under Admin.</source>
             <translation>ログイン情報が保存されていないため、送信できません。「管理」でサービスのログイン情報を入力してください。</translation>
@@ -463,6 +467,10 @@ No files are being sent. Please start it again; if this message comes back, show
             <source>$1 of $2 files match: $3</source>
             <translation>$2 ファイル中 $1 ファイルが該当: $3</translation>
         </message>
+        <message id="VTULocalization.klSampleOneOf">
+            <source>1 of $1 files matches: $2</source>
+            <translation>$1 ファイル中 1 ファイルが該当: $2</translation>
+        </message>
         <message id="VTULocalization.klSampleNone">
             <source>None of the $1 files matches</source>
             <translation>$1 ファイルのうち該当するものはありません</translation>
@@ -556,8 +564,8 @@ No files are being sent. Please start it again; if this message comes back, show
             <translation>サービスから一覧を取得しています...</translation>
         </message>
         <message id="VTULocalization.klListFailed">
-            <source>The list is empty because it could not be fetched from the service. $1</source>
-            <translation>サービスから取得できなかったため、一覧は空です。$1</translation>
+            <source>The list is empty because it could not be fetched from the service: $1</source>
+            <translation>サービスから取得できなかったため、一覧は空です: $1</translation>
         </message>
         <message id="VTULocalization.klListRefused">
             <source>The list is empty because the service did not give it. Check the login under Admin.</source>
@@ -580,8 +588,8 @@ No files are being sent. Please start it again; if this message comes back, show
             <translation>このタスクの保存中にエラーが発生しました</translation>
         </message>
         <message id="VTULocalization.klOldTaskNotRemoved">
-            <source>The task was saved, but the file of its earlier settings could not be removed, so these will be back as a second task at the next start. $1</source>
-            <translation>タスクは保存されましたが、以前の設定のファイルを削除できませんでした。次回の起動時に、以前の設定が2つ目のタスクとして現れます。$1</translation>
+            <source>The task was saved, but the file of its earlier settings could not be removed, so these will be back as a second task at the next start: $1</source>
+            <translation>タスクは保存されましたが、以前の設定のファイルを削除できませんでした。次回の起動時に、以前の設定が2つ目のタスクとして現れます: $1</translation>
         </message>
         <message id="VTULocalization.klEditorFailed">
             <source>The task editor could not be opened: $1</source>
@@ -719,6 +727,10 @@ This is the folder where processed files will be stored.</source>
             <source>Please drop one file at a time.</source>
             <translation>ファイルは1つずつドロップしてください。</translation>
         </message>
+        <message id="VTULocalization.klWhyNotLocal">
+            <source>A file at a network address can't be looked at. Drop it from the folder where the share is mounted, or right-click the task and choose the file there.</source>
+            <translation>ネットワークアドレスのファイルは確認できません。共有がマウントされているフォルダーからドロップするか、タスクを右クリックしてファイルを選択してください。</translation>
+        </message>
         <message id="VTULocalization.klWhyClose">
             <source>Close</source>
             <translation>閉じる</translation>
@@ -742,10 +754,6 @@ This is the folder where processed files will be stored.</source>
         <message id="VTULocalization.klWhyNotDueSeveral">
             <source>It is not sent, for these $1 reasons:</source>
             <translation>次の $1 つの理由で送信されません:</translation>
-        </message>
-        <message id="VTULocalization.klWhyPaused">
-            <source>Uploading is held while a task is edited or the Admin window is open.</source>
-            <translation>タスクの編集中や管理ウィンドウを開いている間、アップロードは停止します。</translation>
         </message>
         <message id="VTULocalization.klWhyReported">
             <source>The task reports: $1</source>
@@ -1003,11 +1011,31 @@ $1
 
 各ファイルの日付を現在の日時にするので、次の処理でタスクが送信します。</translation>
         </message>
+        <message id="VTULocalization.klSendOneAgainQuestion">
+            <source>Do you want to send this file again?
+
+$1
+
+Its date is set to now, so that its task sends it with its next run.</source>
+            <translation>このファイルを再送信しますか?
+
+$1
+
+ファイルの日付を現在の日時にするので、次の処理でタスクが送信します。</translation>
+        </message>
         <message id="VTULocalization.klSendAgainNotTaken">
             <source>No task that is switched on takes these files. They will wait until one does:
 
 $1</source>
             <translation>これらのファイルを扱う有効なタスクがありません。そのようなタスクができるまで待ちます:
+
+$1</translation>
+        </message>
+        <message id="VTULocalization.klSendOneAgainNotTaken">
+            <source>No task that is switched on takes this file. It will wait until one does:
+
+$1</source>
+            <translation>このファイルを扱う有効なタスクがありません。そのようなタスクができるまで待ちます:
 
 $1</translation>
         </message>
@@ -1021,6 +1049,14 @@ $1</translation>
         </message>
         <message id="VTULocalization.klSendAgainFailed">
             <source>These files are not sent again, because their date could not be set:
+
+$1</source>
+            <translation>次のファイルは日付を変更できなかったため、再送信されません:
+
+$1</translation>
+        </message>
+        <message id="VTULocalization.klSendOneAgainFailed">
+            <source>This file is not sent again, because its date could not be set:
 
 $1</source>
             <translation>次のファイルは日付を変更できなかったため、再送信されません:
@@ -1504,12 +1540,12 @@ $1</translation>
             <translation>タスク「$1」はフォルダーを使用できません。入力フォルダーと出力フォルダーがあり、接続され、書き込めることを確認してください。</translation>
         </message>
         <message id="VTUploaderMainWIndow.klTaskNotDuplicated">
-            <source>The task could not be duplicated. $1</source>
-            <translation>タスクを複製できませんでした。$1</translation>
+            <source>The task could not be duplicated: $1</source>
+            <translation>タスクを複製できませんでした: $1</translation>
         </message>
         <message id="VTUploaderMainWIndow.klTaskNotRemoved">
-            <source>The task is off the list, but its file could not be removed, so it will be back at the next start. $1</source>
-            <translation>タスクは一覧から外れましたが、ファイルを削除できなかったため、次回の起動時に再び現れます。$1</translation>
+            <source>The task is off the list, but its file could not be removed, so it will be back at the next start: $1</source>
+            <translation>タスクは一覧から外れましたが、ファイルを削除できなかったため、次回の起動時に再び現れます: $1</translation>
         </message>
         <message id="VTUploaderMainWIndow.klManualNotOpened">
             <source>The browser could not be opened. The manual is at $1</source>

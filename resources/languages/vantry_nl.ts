@@ -299,6 +299,10 @@ Alle bestanden in de invoermap worden dan verwerkt, ongeacht hun leeftijd en ook
             <source>Checking the input folders...</source>
             <translation>Invoermappen controleren...</translation>
         </message>
+        <message id="VTULocalization.klUploadingHeld">
+            <source>Uploading is held until the task editor or the Admin window is closed and what was changed there is in force.</source>
+            <translation>Het verzenden wacht tot de taakeditor of het venster Beheer gesloten is en de wijzigingen van kracht zijn.</translation>
+        </message>
         <message id="VTULocalization.klStripNoLogin">
             <source>No login is stored, so nothing can be sent. Enter the service login under Admin.</source>
             <translation>Er is geen login opgeslagen, dus er kan niets worden verzonden. Voer de login van de dienst in onder Beheer.</translation>
@@ -463,6 +467,10 @@ Er worden geen bestanden verzonden. Start het programma opnieuw; komt deze meldi
             <source>$1 of $2 files match: $3</source>
             <translation>Passende bestanden $1 van $2: $3</translation>
         </message>
+        <message id="VTULocalization.klSampleOneOf">
+            <source>1 of $1 files matches: $2</source>
+            <translation>1 van de $1 bestanden past: $2</translation>
+        </message>
         <message id="VTULocalization.klSampleNone">
             <source>None of the $1 files matches</source>
             <translation>Geen van de $1 bestanden past</translation>
@@ -556,8 +564,8 @@ Er worden geen bestanden verzonden. Start het programma opnieuw; komt deze meldi
             <translation>De lijst wordt opgehaald bij de dienst...</translation>
         </message>
         <message id="VTULocalization.klListFailed">
-            <source>The list is empty because it could not be fetched from the service. $1</source>
-            <translation>De lijst is leeg, omdat deze niet bij de dienst kon worden opgehaald. $1</translation>
+            <source>The list is empty because it could not be fetched from the service: $1</source>
+            <translation>De lijst is leeg, omdat deze niet bij de dienst kon worden opgehaald: $1</translation>
         </message>
         <message id="VTULocalization.klListRefused">
             <source>The list is empty because the service did not give it. Check the login under Admin.</source>
@@ -580,8 +588,8 @@ Er worden geen bestanden verzonden. Start het programma opnieuw; komt deze meldi
             <translation>Er is een fout opgetreden bij het opslaan van deze taak</translation>
         </message>
         <message id="VTULocalization.klOldTaskNotRemoved">
-            <source>The task was saved, but the file of its earlier settings could not be removed, so these will be back as a second task at the next start. $1</source>
-            <translation>De taak is opgeslagen, maar het bestand met de vorige instellingen kon niet worden verwijderd; die komen bij de volgende start dus terug als tweede taak. $1</translation>
+            <source>The task was saved, but the file of its earlier settings could not be removed, so these will be back as a second task at the next start: $1</source>
+            <translation>De taak is opgeslagen, maar het bestand met de vorige instellingen kon niet worden verwijderd; die komen bij de volgende start dus terug als tweede taak: $1</translation>
         </message>
         <message id="VTULocalization.klEditorFailed">
             <source>The task editor could not be opened: $1</source>
@@ -719,6 +727,10 @@ In deze map worden verwerkte bestanden bewaard.</translation>
             <source>Please drop one file at a time.</source>
             <translation>Sleep één bestand tegelijk hierheen.</translation>
         </message>
+        <message id="VTULocalization.klWhyNotLocal">
+            <source>A file at a network address can't be looked at. Drop it from the folder where the share is mounted, or right-click the task and choose the file there.</source>
+            <translation>Een bestand op een netwerkadres kan niet worden bekeken. Sleep het hierheen uit de map waar de share is gekoppeld, of klik met de rechtermuisknop op de taak en kies het bestand daar.</translation>
+        </message>
         <message id="VTULocalization.klWhyClose">
             <source>Close</source>
             <translation>Sluiten</translation>
@@ -742,10 +754,6 @@ In deze map worden verwerkte bestanden bewaard.</translation>
         <message id="VTULocalization.klWhyNotDueSeveral">
             <source>It is not sent, for these $1 reasons:</source>
             <translation>Het wordt om deze $1 redenen niet verzonden:</translation>
-        </message>
-        <message id="VTULocalization.klWhyPaused">
-            <source>Uploading is held while a task is edited or the Admin window is open.</source>
-            <translation>Het verzenden wacht zolang een taak wordt bewerkt of het venster Beheer open is.</translation>
         </message>
         <message id="VTULocalization.klWhyReported">
             <source>The task reports: $1</source>
@@ -1003,11 +1011,31 @@ $1
 
 De datum van elk bestand wordt nu, zodat de taak het bij de volgende ronde verzendt.</translation>
         </message>
+        <message id="VTULocalization.klSendOneAgainQuestion">
+            <source>Do you want to send this file again?
+
+$1
+
+Its date is set to now, so that its task sends it with its next run.</source>
+            <translation>Wilt u dit bestand opnieuw verzenden?
+
+$1
+
+De datum ervan wordt nu, zodat de taak het bij de volgende ronde verzendt.</translation>
+        </message>
         <message id="VTULocalization.klSendAgainNotTaken">
             <source>No task that is switched on takes these files. They will wait until one does:
 
 $1</source>
             <translation>Geen ingeschakelde taak neemt deze bestanden. Ze wachten tot er een is:
+
+$1</translation>
+        </message>
+        <message id="VTULocalization.klSendOneAgainNotTaken">
+            <source>No task that is switched on takes this file. It will wait until one does:
+
+$1</source>
+            <translation>Geen ingeschakelde taak neemt dit bestand. Het wacht tot er een is:
 
 $1</translation>
         </message>
@@ -1024,6 +1052,14 @@ $1</translation>
 
 $1</source>
             <translation>Deze bestanden worden niet opnieuw verzonden, omdat hun datum niet kon worden gewijzigd:
+
+$1</translation>
+        </message>
+        <message id="VTULocalization.klSendOneAgainFailed">
+            <source>This file is not sent again, because its date could not be set:
+
+$1</source>
+            <translation>Dit bestand wordt niet opnieuw verzonden, omdat de datum ervan niet kon worden gewijzigd:
 
 $1</translation>
         </message>
@@ -1504,12 +1540,12 @@ $1</translation>
             <translation>Taak “$1” kan de mappen niet gebruiken. Controleer of invoermap en uitvoermap bestaan, verbonden zijn en beschrijfbaar zijn.</translation>
         </message>
         <message id="VTUploaderMainWIndow.klTaskNotDuplicated">
-            <source>The task could not be duplicated. $1</source>
-            <translation>De taak kon niet worden gedupliceerd. $1</translation>
+            <source>The task could not be duplicated: $1</source>
+            <translation>De taak kon niet worden gedupliceerd: $1</translation>
         </message>
         <message id="VTUploaderMainWIndow.klTaskNotRemoved">
-            <source>The task is off the list, but its file could not be removed, so it will be back at the next start. $1</source>
-            <translation>De taak staat niet meer in de lijst, maar het taakbestand kon niet worden verwijderd; de taak komt bij de volgende start dus terug. $1</translation>
+            <source>The task is off the list, but its file could not be removed, so it will be back at the next start: $1</source>
+            <translation>De taak staat niet meer in de lijst, maar het taakbestand kon niet worden verwijderd; de taak komt bij de volgende start dus terug: $1</translation>
         </message>
         <message id="VTUploaderMainWIndow.klManualNotOpened">
             <source>The browser could not be opened. The manual is at $1</source>

@@ -299,6 +299,10 @@ Zostaną wtedy przetworzone wszystkie pliki z folderu wejścia, niezależnie od 
             <source>Checking the input folders...</source>
             <translation>Sprawdzanie folderów wejścia...</translation>
         </message>
+        <message id="VTULocalization.klUploadingHeld">
+            <source>Uploading is held until the task editor or the Admin window is closed and what was changed there is in force.</source>
+            <translation>Wysyłanie jest wstrzymane do zamknięcia edytora zadań lub okna Admin i wprowadzenia zmian.</translation>
+        </message>
         <message id="VTULocalization.klStripNoLogin">
             <source>No login is stored, so nothing can be sent. Enter the service login under Admin.</source>
             <translation>Nie zapisano loginu, więc nic nie może zostać wysłane. Wpisz login usługi w oknie Admin.</translation>
@@ -463,6 +467,10 @@ Pliki nie są wysyłane. Uruchom program ponownie; jeśli ten komunikat znów si
             <source>$1 of $2 files match: $3</source>
             <translation>Pasujące pliki $1 z $2: $3</translation>
         </message>
+        <message id="VTULocalization.klSampleOneOf">
+            <source>1 of $1 files matches: $2</source>
+            <translation>Pasuje 1 plik z $1: $2</translation>
+        </message>
         <message id="VTULocalization.klSampleNone">
             <source>None of the $1 files matches</source>
             <translation>Żaden z plików nie pasuje (liczba plików: $1)</translation>
@@ -556,8 +564,8 @@ Pliki nie są wysyłane. Uruchom program ponownie; jeśli ten komunikat znów si
             <translation>Pobieranie listy z usługi...</translation>
         </message>
         <message id="VTULocalization.klListFailed">
-            <source>The list is empty because it could not be fetched from the service. $1</source>
-            <translation>Lista jest pusta, bo nie udało się jej pobrać z usługi. $1</translation>
+            <source>The list is empty because it could not be fetched from the service: $1</source>
+            <translation>Lista jest pusta, bo nie udało się jej pobrać z usługi: $1</translation>
         </message>
         <message id="VTULocalization.klListRefused">
             <source>The list is empty because the service did not give it. Check the login under Admin.</source>
@@ -580,8 +588,8 @@ Pliki nie są wysyłane. Uruchom program ponownie; jeśli ten komunikat znów si
             <translation>Wystąpił błąd podczas zapisywania tego zadania</translation>
         </message>
         <message id="VTULocalization.klOldTaskNotRemoved">
-            <source>The task was saved, but the file of its earlier settings could not be removed, so these will be back as a second task at the next start. $1</source>
-            <translation>Zadanie zapisano, ale nie udało się usunąć pliku z jego poprzednimi ustawieniami, więc przy następnym uruchomieniu wrócą one jako drugie zadanie. $1</translation>
+            <source>The task was saved, but the file of its earlier settings could not be removed, so these will be back as a second task at the next start: $1</source>
+            <translation>Zadanie zapisano, ale nie udało się usunąć pliku z jego poprzednimi ustawieniami, więc przy następnym uruchomieniu wrócą one jako drugie zadanie: $1</translation>
         </message>
         <message id="VTULocalization.klEditorFailed">
             <source>The task editor could not be opened: $1</source>
@@ -719,6 +727,10 @@ W tym folderze będą zapisywane przetworzone pliki.</translation>
             <source>Please drop one file at a time.</source>
             <translation>Upuszczaj pliki pojedynczo.</translation>
         </message>
+        <message id="VTULocalization.klWhyNotLocal">
+            <source>A file at a network address can't be looked at. Drop it from the folder where the share is mounted, or right-click the task and choose the file there.</source>
+            <translation>Nie można sprawdzić pliku pod adresem sieciowym. Upuść go z folderu, w którym udział jest zamontowany, albo kliknij zadanie prawym przyciskiem myszy i tam wybierz plik.</translation>
+        </message>
         <message id="VTULocalization.klWhyClose">
             <source>Close</source>
             <translation>Zamknij</translation>
@@ -742,10 +754,6 @@ W tym folderze będą zapisywane przetworzone pliki.</translation>
         <message id="VTULocalization.klWhyNotDueSeveral">
             <source>It is not sent, for these $1 reasons:</source>
             <translation>Nie jest wysyłany z następujących powodów ($1):</translation>
-        </message>
-        <message id="VTULocalization.klWhyPaused">
-            <source>Uploading is held while a task is edited or the Admin window is open.</source>
-            <translation>Wysyłanie jest wstrzymane podczas edycji zadania lub gdy otwarte jest okno Admin.</translation>
         </message>
         <message id="VTULocalization.klWhyReported">
             <source>The task reports: $1</source>
@@ -1003,11 +1011,31 @@ $1
 
 Każdy plik otrzyma bieżącą datę, więc jego zadanie wyśle go przy następnym przebiegu.</translation>
         </message>
+        <message id="VTULocalization.klSendOneAgainQuestion">
+            <source>Do you want to send this file again?
+
+$1
+
+Its date is set to now, so that its task sends it with its next run.</source>
+            <translation>Czy chcesz ponownie wysłać ten plik?
+
+$1
+
+Plik otrzyma bieżącą datę, więc jego zadanie wyśle go przy następnym przebiegu.</translation>
+        </message>
         <message id="VTULocalization.klSendAgainNotTaken">
             <source>No task that is switched on takes these files. They will wait until one does:
 
 $1</source>
             <translation>Żadne włączone zadanie nie obejmuje tych plików. Poczekają, aż będzie takie zadanie:
+
+$1</translation>
+        </message>
+        <message id="VTULocalization.klSendOneAgainNotTaken">
+            <source>No task that is switched on takes this file. It will wait until one does:
+
+$1</source>
+            <translation>Żadne włączone zadanie nie obejmuje tego pliku. Poczeka, aż będzie takie zadanie:
 
 $1</translation>
         </message>
@@ -1024,6 +1052,14 @@ $1</translation>
 
 $1</source>
             <translation>Te pliki nie zostaną ponownie wysłane, bo nie udało się zmienić ich daty:
+
+$1</translation>
+        </message>
+        <message id="VTULocalization.klSendOneAgainFailed">
+            <source>This file is not sent again, because its date could not be set:
+
+$1</source>
+            <translation>Ten plik nie zostanie ponownie wysłany, bo nie udało się zmienić jego daty:
 
 $1</translation>
         </message>
@@ -1504,12 +1540,12 @@ $1</translation>
             <translation>Zadanie „$1” nie może użyć swoich folderów. Sprawdź, czy foldery wejścia i wyjścia istnieją, są podłączone i można w nich zapisywać.</translation>
         </message>
         <message id="VTUploaderMainWIndow.klTaskNotDuplicated">
-            <source>The task could not be duplicated. $1</source>
-            <translation>Nie udało się powielić zadania. $1</translation>
+            <source>The task could not be duplicated: $1</source>
+            <translation>Nie udało się powielić zadania: $1</translation>
         </message>
         <message id="VTUploaderMainWIndow.klTaskNotRemoved">
-            <source>The task is off the list, but its file could not be removed, so it will be back at the next start. $1</source>
-            <translation>Zadania nie ma już na liście, ale nie udało się usunąć jego pliku, więc wróci przy następnym uruchomieniu. $1</translation>
+            <source>The task is off the list, but its file could not be removed, so it will be back at the next start: $1</source>
+            <translation>Zadania nie ma już na liście, ale nie udało się usunąć jego pliku, więc wróci przy następnym uruchomieniu: $1</translation>
         </message>
         <message id="VTUploaderMainWIndow.klManualNotOpened">
             <source>The browser could not be opened. The manual is at $1</source>

@@ -299,6 +299,10 @@ Todos os arquivos da pasta de entrada serão processados, qualquer que seja a id
             <source>Checking the input folders...</source>
             <translation>Verificando as pastas de entrada...</translation>
         </message>
+        <message id="VTULocalization.klUploadingHeld">
+            <source>Uploading is held until the task editor or the Admin window is closed and what was changed there is in force.</source>
+            <translation>O envio fica suspenso até que o editor de tarefas ou a janela Admin seja fechada e as alterações sejam aplicadas.</translation>
+        </message>
         <message id="VTULocalization.klStripNoLogin">
             <source>No login is stored, so nothing can be sent. Enter the service login under Admin.</source>
             <translation>Não há login salvo, portanto nada pode ser enviado. Informe o login do serviço em Admin.</translation>
@@ -463,6 +467,10 @@ Nenhum arquivo está sendo enviado. Inicie o programa novamente; se esta mensage
             <source>$1 of $2 files match: $3</source>
             <translation>Arquivos correspondentes $1 de $2: $3</translation>
         </message>
+        <message id="VTULocalization.klSampleOneOf">
+            <source>1 of $1 files matches: $2</source>
+            <translation>1 de $1 arquivos corresponde: $2</translation>
+        </message>
         <message id="VTULocalization.klSampleNone">
             <source>None of the $1 files matches</source>
             <translation>Nenhum dos $1 arquivos corresponde</translation>
@@ -556,8 +564,8 @@ Nenhum arquivo está sendo enviado. Inicie o programa novamente; se esta mensage
             <translation>Obtendo a lista do serviço...</translation>
         </message>
         <message id="VTULocalization.klListFailed">
-            <source>The list is empty because it could not be fetched from the service. $1</source>
-            <translation>A lista está vazia porque não pôde ser obtida do serviço. $1</translation>
+            <source>The list is empty because it could not be fetched from the service: $1</source>
+            <translation>A lista está vazia porque não pôde ser obtida do serviço: $1</translation>
         </message>
         <message id="VTULocalization.klListRefused">
             <source>The list is empty because the service did not give it. Check the login under Admin.</source>
@@ -580,8 +588,8 @@ Nenhum arquivo está sendo enviado. Inicie o programa novamente; se esta mensage
             <translation>Ocorreu um erro ao salvar esta tarefa</translation>
         </message>
         <message id="VTULocalization.klOldTaskNotRemoved">
-            <source>The task was saved, but the file of its earlier settings could not be removed, so these will be back as a second task at the next start. $1</source>
-            <translation>A tarefa foi salva, mas o arquivo com as configurações anteriores não pôde ser removido; elas voltarão como uma segunda tarefa no próximo início. $1</translation>
+            <source>The task was saved, but the file of its earlier settings could not be removed, so these will be back as a second task at the next start: $1</source>
+            <translation>A tarefa foi salva, mas o arquivo com as configurações anteriores não pôde ser removido; elas voltarão como uma segunda tarefa no próximo início: $1</translation>
         </message>
         <message id="VTULocalization.klEditorFailed">
             <source>The task editor could not be opened: $1</source>
@@ -719,6 +727,10 @@ Nesta pasta serão guardados os arquivos processados.</translation>
             <source>Please drop one file at a time.</source>
             <translation>Solte um arquivo de cada vez.</translation>
         </message>
+        <message id="VTULocalization.klWhyNotLocal">
+            <source>A file at a network address can't be looked at. Drop it from the folder where the share is mounted, or right-click the task and choose the file there.</source>
+            <translation>Não é possível examinar um arquivo em um endereço de rede. Arraste-o da pasta onde o compartilhamento está montado, ou clique com o botão direito na tarefa e escolha o arquivo ali.</translation>
+        </message>
         <message id="VTULocalization.klWhyClose">
             <source>Close</source>
             <translation>Fechar</translation>
@@ -742,10 +754,6 @@ Nesta pasta serão guardados os arquivos processados.</translation>
         <message id="VTULocalization.klWhyNotDueSeveral">
             <source>It is not sent, for these $1 reasons:</source>
             <translation>Ele não é enviado por estes $1 motivos:</translation>
-        </message>
-        <message id="VTULocalization.klWhyPaused">
-            <source>Uploading is held while a task is edited or the Admin window is open.</source>
-            <translation>O envio fica suspenso enquanto uma tarefa é editada ou a janela Admin está aberta.</translation>
         </message>
         <message id="VTULocalization.klWhyReported">
             <source>The task reports: $1</source>
@@ -1003,11 +1011,31 @@ $1
 
 A data de cada arquivo passa a ser a atual, para que a tarefa o envie na próxima passagem.</translation>
         </message>
+        <message id="VTULocalization.klSendOneAgainQuestion">
+            <source>Do you want to send this file again?
+
+$1
+
+Its date is set to now, so that its task sends it with its next run.</source>
+            <translation>Deseja enviar este arquivo novamente?
+
+$1
+
+A data dele passa a ser a atual, para que a tarefa o envie na próxima passagem.</translation>
+        </message>
         <message id="VTULocalization.klSendAgainNotTaken">
             <source>No task that is switched on takes these files. They will wait until one does:
 
 $1</source>
             <translation>Nenhuma tarefa ativa aceita estes arquivos. Eles esperarão até que uma aceite:
+
+$1</translation>
+        </message>
+        <message id="VTULocalization.klSendOneAgainNotTaken">
+            <source>No task that is switched on takes this file. It will wait until one does:
+
+$1</source>
+            <translation>Nenhuma tarefa ativa aceita este arquivo. Ele esperará até que uma aceite:
 
 $1</translation>
         </message>
@@ -1024,6 +1052,14 @@ $1</translation>
 
 $1</source>
             <translation>Estes arquivos não serão enviados novamente, porque a data deles não pôde ser alterada:
+
+$1</translation>
+        </message>
+        <message id="VTULocalization.klSendOneAgainFailed">
+            <source>This file is not sent again, because its date could not be set:
+
+$1</source>
+            <translation>Este arquivo não será enviado novamente, porque a data dele não pôde ser alterada:
 
 $1</translation>
         </message>
@@ -1504,12 +1540,12 @@ $1</translation>
             <translation>A tarefa “$1” não consegue usar suas pastas. Verifique se as pastas de entrada e saída existem, estão conectadas e permitem gravação.</translation>
         </message>
         <message id="VTUploaderMainWIndow.klTaskNotDuplicated">
-            <source>The task could not be duplicated. $1</source>
-            <translation>A tarefa não pôde ser duplicada. $1</translation>
+            <source>The task could not be duplicated: $1</source>
+            <translation>A tarefa não pôde ser duplicada: $1</translation>
         </message>
         <message id="VTUploaderMainWIndow.klTaskNotRemoved">
-            <source>The task is off the list, but its file could not be removed, so it will be back at the next start. $1</source>
-            <translation>A tarefa saiu da lista, mas seu arquivo não pôde ser removido; ela voltará no próximo início. $1</translation>
+            <source>The task is off the list, but its file could not be removed, so it will be back at the next start: $1</source>
+            <translation>A tarefa saiu da lista, mas seu arquivo não pôde ser removido; ela voltará no próximo início: $1</translation>
         </message>
         <message id="VTUploaderMainWIndow.klManualNotOpened">
             <source>The browser could not be opened. The manual is at $1</source>

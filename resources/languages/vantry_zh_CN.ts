@@ -299,6 +299,10 @@ This will force all files in the input folder to be processed regardless of age 
             <source>Checking the input folders...</source>
             <translation>正在检查输入文件夹...</translation>
         </message>
+        <message id="VTULocalization.klUploadingHeld">
+            <source>Uploading is held until the task editor or the Admin window is closed and what was changed there is in force.</source>
+            <translation>在关闭任务编辑器或管理窗口且其更改生效之前，上传会暂停。</translation>
+        </message>
         <message id="VTULocalization.klStripNoLogin">
             <source>No login is stored, so nothing can be sent. Enter the service login under Admin.</source>
             <translation>未保存登录信息，因此无法发送。请在“管理”中输入服务的登录信息。</translation>
@@ -463,6 +467,10 @@ No files are being sent. Please start it again; if this message comes back, show
             <source>$1 of $2 files match: $3</source>
             <translation>$2 个文件中有 $1 个符合：$3</translation>
         </message>
+        <message id="VTULocalization.klSampleOneOf">
+            <source>1 of $1 files matches: $2</source>
+            <translation>$1 个文件中有 1 个符合：$2</translation>
+        </message>
         <message id="VTULocalization.klSampleNone">
             <source>None of the $1 files matches</source>
             <translation>$1 个文件中没有符合的</translation>
@@ -556,8 +564,8 @@ No files are being sent. Please start it again; if this message comes back, show
             <translation>正在从服务获取列表...</translation>
         </message>
         <message id="VTULocalization.klListFailed">
-            <source>The list is empty because it could not be fetched from the service. $1</source>
-            <translation>列表为空，因为无法从服务获取。$1</translation>
+            <source>The list is empty because it could not be fetched from the service: $1</source>
+            <translation>列表为空，因为无法从服务获取：$1</translation>
         </message>
         <message id="VTULocalization.klListRefused">
             <source>The list is empty because the service did not give it. Check the login under Admin.</source>
@@ -580,8 +588,8 @@ No files are being sent. Please start it again; if this message comes back, show
             <translation>保存此任务时出错</translation>
         </message>
         <message id="VTULocalization.klOldTaskNotRemoved">
-            <source>The task was saved, but the file of its earlier settings could not be removed, so these will be back as a second task at the next start. $1</source>
-            <translation>任务已保存，但其旧设置的文件无法移除，因此旧设置将在下次启动时作为第二个任务出现。$1</translation>
+            <source>The task was saved, but the file of its earlier settings could not be removed, so these will be back as a second task at the next start: $1</source>
+            <translation>任务已保存，但其旧设置的文件无法移除，因此旧设置将在下次启动时作为第二个任务出现：$1</translation>
         </message>
         <message id="VTULocalization.klEditorFailed">
             <source>The task editor could not be opened: $1</source>
@@ -719,6 +727,10 @@ This is the folder where processed files will be stored.</source>
             <source>Please drop one file at a time.</source>
             <translation>请一次只拖放一个文件。</translation>
         </message>
+        <message id="VTULocalization.klWhyNotLocal">
+            <source>A file at a network address can't be looked at. Drop it from the folder where the share is mounted, or right-click the task and choose the file there.</source>
+            <translation>无法查看网络地址上的文件。请从挂载该共享的文件夹中拖放，或右键单击任务并在其中选择文件。</translation>
+        </message>
         <message id="VTULocalization.klWhyClose">
             <source>Close</source>
             <translation>关闭</translation>
@@ -742,10 +754,6 @@ This is the folder where processed files will be stored.</source>
         <message id="VTULocalization.klWhyNotDueSeveral">
             <source>It is not sent, for these $1 reasons:</source>
             <translation>由于以下 $1 个原因，未发送：</translation>
-        </message>
-        <message id="VTULocalization.klWhyPaused">
-            <source>Uploading is held while a task is edited or the Admin window is open.</source>
-            <translation>编辑任务或打开管理窗口时，上传会暂停。</translation>
         </message>
         <message id="VTULocalization.klWhyReported">
             <source>The task reports: $1</source>
@@ -1003,11 +1011,31 @@ $1
 
 每个文件的日期将设为当前时间，任务会在下次运行时发送。</translation>
         </message>
+        <message id="VTULocalization.klSendOneAgainQuestion">
+            <source>Do you want to send this file again?
+
+$1
+
+Its date is set to now, so that its task sends it with its next run.</source>
+            <translation>要重新发送此文件吗？
+
+$1
+
+文件的日期将设为当前时间，任务会在下次运行时发送。</translation>
+        </message>
         <message id="VTULocalization.klSendAgainNotTaken">
             <source>No task that is switched on takes these files. They will wait until one does:
 
 $1</source>
             <translation>没有已启用的任务处理这些文件。它们将等待，直到有任务处理：
+
+$1</translation>
+        </message>
+        <message id="VTULocalization.klSendOneAgainNotTaken">
+            <source>No task that is switched on takes this file. It will wait until one does:
+
+$1</source>
+            <translation>没有已启用的任务处理此文件。它将等待，直到有任务处理：
 
 $1</translation>
         </message>
@@ -1024,6 +1052,14 @@ $1</translation>
 
 $1</source>
             <translation>这些文件不会重新发送，因为无法设置其日期：
+
+$1</translation>
+        </message>
+        <message id="VTULocalization.klSendOneAgainFailed">
+            <source>This file is not sent again, because its date could not be set:
+
+$1</source>
+            <translation>此文件不会重新发送，因为无法设置其日期：
 
 $1</translation>
         </message>
@@ -1504,12 +1540,12 @@ $1</translation>
             <translation>任务“$1”无法使用其文件夹。请确认输入和输出文件夹存在、已连接且可写。</translation>
         </message>
         <message id="VTUploaderMainWIndow.klTaskNotDuplicated">
-            <source>The task could not be duplicated. $1</source>
-            <translation>无法复制该任务。$1</translation>
+            <source>The task could not be duplicated: $1</source>
+            <translation>无法复制该任务：$1</translation>
         </message>
         <message id="VTUploaderMainWIndow.klTaskNotRemoved">
-            <source>The task is off the list, but its file could not be removed, so it will be back at the next start. $1</source>
-            <translation>任务已从列表中移除，但其文件无法删除，因此将在下次启动时重新出现。$1</translation>
+            <source>The task is off the list, but its file could not be removed, so it will be back at the next start: $1</source>
+            <translation>任务已从列表中移除，但其文件无法删除，因此将在下次启动时重新出现：$1</translation>
         </message>
         <message id="VTUploaderMainWIndow.klManualNotOpened">
             <source>The browser could not be opened. The manual is at $1</source>

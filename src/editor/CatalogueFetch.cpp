@@ -1,7 +1,11 @@
 #include "editor/CatalogueFetch.h"
 
+#include <algorithm>
+
+#include "platform/Problems.h"
 #include "service/VTInstrumentTrack.h"
 #include "service/VTTrack.h"
+#include "service/VantryUtil.h"
 #include "storage/Preferences.h"
 #include "text/Placeholders.h"
 #include "text/VTULocalization.h"
@@ -13,6 +17,23 @@ namespace {
 struct Outcome {
   bool fetched = false;
   HttpFailure failure;
+  QString err;
+
+  /// True if the service answered with an error code of its own.
+  [[nodiscard]] bool hasCode() const {
+    return !fetched && !failure.atProxy && err.startsWith(u'E', Qt::CaseInsensitive) && err != "err"_L1;
+  }
+  /// True if the code tells a good login that its account has no devices or tracks.
+  [[nodiscard]] bool nothingThere() const {
+    static constexpr QLatin1StringView codes[] = {"E010"_L1, "E018"_L1, "E019"_L1, "E028"_L1};
+    const auto is = [this](QLatin1StringView code) { return err.compare(code, Qt::CaseInsensitive) == 0; };
+    return hasCode() && std::any_of(std::begin(codes), std::end(codes), is);
+  }
+  [[nodiscard]] QString words() const {
+    QString words = VantryUtil::errToString(err);
+    if (words.endsWith(u'.')) words.chop(1);
+    return err + u" - "_s + words;
+  }
 };
 
 bool isEmpty(TrackChoices::Kind kind) {
@@ -46,8 +67,8 @@ void CatalogueFetch::fetch(Kind kind) {
   one.progress = Progress::Fetching;
   const auto work = [kind](const auto&) {
     Outcome outcome;
-    outcome.fetched = kind == Kind::Instrument ? VantryUtil::InstrumentTrackList(&outcome.failure)
-                                               : VantryUtil::TrackList(&outcome.failure);
+    outcome.fetched = kind == Kind::Instrument ? VantryUtil::InstrumentTrackList(&outcome.failure, &outcome.err)
+                                               : VantryUtil::TrackList(&outcome.failure, &outcome.err);
     return outcome;
   };
   const auto end = [this, kind](Progress progress, const QString& detail) {
@@ -58,14 +79,16 @@ void CatalogueFetch::fetch(Kind kind) {
   one.call->run<Outcome>(
       0, work,
       [end](const Outcome& outcome) {
-        if (outcome.fetched)
+        if (outcome.fetched || outcome.nothingThere())
           end(Progress::Fetched, {});
+        else if (outcome.hasCode())
+          end(Progress::Refused, outcome.words());
         else if (outcome.failure.failed())
           end(Progress::Failed, outcome.failure.detail);
         else
           end(Progress::Refused, {});
       },
-      [end] { end(Progress::Failed, {}); });
+      [end] { end(Progress::Busy, {}); });
 }
 
 QString CatalogueFetch::reason(Kind kind) const {
@@ -78,9 +101,13 @@ QString CatalogueFetch::reason(Kind kind) const {
     case Progress::Fetched:
       return VTULocalization::klListNothingThere();
     case Progress::Refused:
-      return VTULocalization::klListRefused();
+      return one(kind).detail.isEmpty()
+                 ? VTULocalization::klListRefused()
+                 : VTULocalization::problemText({Problem::Kind::ServiceRefuses, {}, one(kind).detail});
     case Progress::Failed:
-      return fillPlaceholders(VTULocalization::klListFailed(), {one(kind).detail}).trimmed();
+      return fillPlaceholders(VTULocalization::klListFailed(), {one(kind).detail});
+    case Progress::Busy:
+      return VTULocalization::klLogBusy();
     case Progress::NoLogin:
       return VTULocalization::klListNoLogin();
   }

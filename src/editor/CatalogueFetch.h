@@ -20,7 +20,7 @@ class CatalogueFetch : public QObject {
   [[nodiscard]] QString reason(Kind kind) const;
 
  private:
-  enum class Progress { Idle, Fetching, Fetched, Refused, Failed, NoLogin };
+  enum class Progress { Idle, Fetching, Fetched, Refused, Failed, Busy, NoLogin };
   struct One {
     std::unique_ptr<BackgroundCall> call;
     Progress progress = Progress::Idle;

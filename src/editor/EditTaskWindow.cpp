@@ -183,7 +183,8 @@ void EditTaskWindow::restoreStoredTrack() {
 }
 
 void EditTaskWindow::catalogueFetched(Kind fetched) {
-  if (fetched != kind()) return;
+  // Lists that another fetch has filled meanwhile may hold the user's choice.
+  if (fetched != kind() || TrackList1->count() > 0) return;
   UpdateTrackSelectionOptions();
   if (Task) restoreStoredTrack();
 }

@@ -49,6 +49,7 @@ QString sampleLine(const FolderSample& sample) {
   if (sample.matching > names.size()) names << u"…"_s;
   const QString listed = names.join(u", "_s);
   if (sample.files == 1) return fillPlaceholders(klSampleOneMatches(), {listed});
+  if (sample.matching == 1) return fillPlaceholders(klSampleOneOf(), {QString::number(sample.files), listed});
   return fillPlaceholders(klSampleMatching(),
                           {QString::number(sample.matching), QString::number(sample.files), listed});
 }

@@ -1,11 +1,10 @@
 #include "editor/TrackChoices.h"
 
+#include "service/Catalogue.h"
 #include "service/VTInstrumentTrack.h"
 #include "service/VTTrack.h"
 
 namespace TrackChoices {
-
-static bool same(const QString& one, const QString& other) { return one.compare(other, Qt::CaseInsensitive) == 0; }
 
 /// What the catalogues know of a stored workflow name; empty texts when they know nothing.
 struct Known {
@@ -34,12 +33,16 @@ QStringList devices(Kind kind) {
 QList<Target> targets(Kind kind, const QString& device) {
   QList<Target> rows;
   if (device.trimmed().isEmpty()) return rows;
+  DistinctTexts texts;
+  const auto offer = [&](const QString& text, const QString& workflowName) {
+    if (texts.take(text)) rows.append({text, workflowName});
+  };
   if (kind == Kind::Instrument) {
-    for (const QString& target : VTInstrumentTrack::GetTargetsForDevice(device))
-      rows.append({target, VTInstrumentTrack::GetITWorkflowNameForInstrumentAndTarget(device, target)});
+    for (const VTInstrumentTrack& track : VTInstrumentTrack::Tracks())
+      if (sameText(track.InstrumentIdentity(), device)) offer(track.TargetIdentity(), track.ITWorkflowName);
   } else {
-    for (const QString& track : VTTrack::GetTracksForDevice(device))
-      rows.append({track, VTTrack::GetTrackWorkflowNameForDeviceAndTrack(device, track)});
+    for (const VTTrack& track : VTTrack::Tracks())
+      if (sameText(track.Device, device)) offer(track.TrackName, track.TrackWorkflowName);
   }
   return rows;
 }
@@ -48,30 +51,30 @@ int deviceWhileFilling(Kind kind, const QStringList& rows, const QString& workfl
   const Known known = lookUp(kind, workflowName);
   int selected = -1;
   for (int row = 0; row < rows.size(); ++row)
-    if (known.found && same(rows[row], known.fillDevice)) selected = row;
+    if (known.found && sameText(rows[row], known.fillDevice)) selected = row;
   return selected;
 }
 
 int targetWhileFilling(Kind kind, const QString& device, const QList<Target>& rows, const QString& workflowName) {
   const Known known = lookUp(kind, workflowName);
   int selected = -1;
-  if (!known.found || !same(known.fillDevice, device)) return selected;
+  if (!known.found || !sameText(known.fillDevice, device)) return selected;
   for (int row = 0; row < rows.size(); ++row)
-    if (same(rows[row].workflowName, known.workflowName)) selected = row;
+    if (sameText(rows[row].workflowName, known.workflowName)) selected = row;
   return selected;
 }
 
 int deviceOfTask(Kind kind, const QStringList& rows, const QString& workflowName) {
   const Known known = lookUp(kind, workflowName);
   for (int row = 0; row < rows.size(); ++row)
-    if (known.found && same(rows[row], known.taskDevice)) return row;
+    if (known.found && sameText(rows[row], known.taskDevice)) return row;
   return -1;
 }
 
 int targetOfTask(Kind kind, const QList<Target>& rows, const QString& workflowName) {
   const Known known = lookUp(kind, workflowName);
   for (int row = 0; row < rows.size(); ++row)
-    if (known.found && same(rows[row].workflowName, known.workflowName)) return row;
+    if (known.found && sameText(rows[row].workflowName, known.workflowName)) return row;
   return -1;
 }
 

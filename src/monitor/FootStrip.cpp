@@ -91,7 +91,7 @@ static QString momentText(const QDateTime& moment, const QDateTime& now) {
                                      : locale.toString(moment, QLocale::ShortFormat);
 }
 
-bool isWell(const StripInput& input) { return input.problems.isEmpty() && input.faultyTasks.isEmpty(); }
+bool isWell(const StripInput& input) { return input.problems.isEmpty() && input.faultyTasks.isEmpty() && !input.held; }
 
 StripLine composeStrip(const StripInput& input) {
   using Tone = StripLine::Tone;
@@ -108,13 +108,15 @@ StripLine composeStrip(const StripInput& input) {
     return {Tone::Wrong, wrong.first(), more, wrong.join(u'\n')};
   }
   switch (input.phase) {
-    case StartPhase::Connecting:
+    case StartPhase::Connecting:  // held or not, as nothing is sent before the tasks are there
       return withDetails(Tone::Quiet, VTULocalization::klStripConnecting());
     case StartPhase::Checking:
+      if (input.held) break;
       return withDetails(Tone::Quiet, VTULocalization::klStripChecking());
     case StartPhase::Running:
       break;
   }
+  if (input.held) return withDetails(Tone::Quiet, VTULocalization::klUploadingHeld());
   return withDetails(Tone::Well,
                      fillPlaceholders(VTULocalization::klStripAllWell(), {momentText(input.wellSince, input.now)}));
 }

@@ -23,7 +23,8 @@ struct StripInput {
   QList<Problem> problems;  ///< the oldest first
   QStringList faultyTasks;  ///< tasks that can't use their folders
   StartPhase phase = StartPhase::Connecting;
-  QDateTime wellSince;  ///< local; invalid while something is wrong
+  bool held = false;    ///< uploading is, since tasks or settings are being changed
+  QDateTime wellSince;  ///< local; invalid while something is wrong or held
   QDateTime now;        ///< local
 };
 
@@ -37,7 +38,7 @@ struct StripLine {
 };
 [[nodiscard]] StripLine composeStrip(const StripInput& input);
 
-/// Whether nothing is wrong.
+/// Whether nothing is wrong and nothing held.
 [[nodiscard]] bool isWell(const StripInput& input);
 
 /// Remembers since when all is well.

@@ -10,6 +10,7 @@ LogFind::LogFind(LogModel* model, QObject* parent) : QObject(parent), m_model(mo
 void LogFind::setFilter(const LogFilter& filter) {
   if (filter == m_filter) return;
   m_filter = filter;
+  m_error.clear();
   m_search.cancel();
   m_wait.stop();
   if (m_held) return;
@@ -23,6 +24,7 @@ void LogFind::setFilter(const LogFilter& filter) {
 
 void LogFind::hold() {
   m_held = true;
+  m_error.clear();
   m_search.cancel();
   m_wait.stop();
 }
@@ -49,8 +51,10 @@ void LogFind::begin() {
         return searchIds(log, ids, filter, cancelled, hand);
       },
       take,
-      [this, take](const QString& error) {
-        if (m_fresh) take({});
+      [this](const QString& error) {
+        // What a search found before it failed would be exported as if it were all.
+        if (m_fresh || !error.isEmpty()) m_model->setMatches({});
+        m_error = error;
         if (error.isEmpty())
           emit finished();
         else

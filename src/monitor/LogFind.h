@@ -17,6 +17,8 @@ class LogFind : public QObject {
   void setFilter(const LogFilter& filter);
   [[nodiscard]] const LogFilter& filter() const { return m_filter; }
   [[nodiscard]] bool searching() const { return m_wait.isActive() || m_search.running(); }
+  /// Why the last search failed, which leaves nothing in the view; empty for none.
+  [[nodiscard]] const QString& error() const { return m_error; }
   /// The list is being replaced: searching stops until release(), which searches anew.
   void hold();
   void release();
@@ -32,6 +34,7 @@ class LogFind : public QObject {
   LogModel* m_model;
   std::optional<LogSource> m_log;
   LogFilter m_filter;
+  QString m_error;
   bool m_held = false, m_fresh = true;
   QTimer m_wait;
   BackgroundCall m_search;

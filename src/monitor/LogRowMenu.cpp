@@ -2,10 +2,12 @@
 
 #include <QAction>
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QPointer>
 
+#include "monitor/SystemLogWindow.h"
 #include "text/Placeholders.h"
 #include "text/VTULocalization.h"
 #include "widgets/Captions.h"
@@ -21,7 +23,7 @@ constexpr qsizetype LongestName = 80;
 constexpr int SlowMs = 2000;
 
 LogRowMenu::LogRowMenu(LogListView* list)
-    : QObject(list), m_list(list), m_copy("log-copy", this), m_look("log-files", this), m_touch("send-again", this) {
+    : QObject(list), m_list(list), m_copy("log-copy", this), m_look("log-files", this) {
   list->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(list, &QWidget::customContextMenuRequested, this, &LogRowMenu::show);
   connect(list, &LogListView::copyWanted, this, &LogRowMenu::copy);
@@ -102,15 +104,30 @@ QString sendAgainQuestion(const QList<RepeatableFile>& files) {
     all << one.file;
     if (!one.taken) notTaken << one.file;
   }
-  QString question = fillPlaceholders(klSendAgainQuestion(), {namesOf(all)});
-  if (!notTaken.isEmpty()) question += u"\n\n"_s + fillPlaceholders(klSendAgainNotTaken(), {namesOf(notTaken)});
-  return question;
+  QString question =
+      fillPlaceholders(all.size() == 1 ? klSendOneAgainQuestion() : klSendAgainQuestion(), {namesOf(all)});
+  if (notTaken.isEmpty()) return question;
+  const QString waiting = notTaken.size() == 1 ? klSendOneAgainNotTaken() : klSendAgainNotTaken();
+  return question + u"\n\n"_s + fillPlaceholders(waiting, {namesOf(notTaken)});
+}
+
+/// Sets the dates. It doesn't go with the viewer, since a file that stays as it is must be told of in any case.
+static BackgroundCall& touching() {
+  static auto* const call = new BackgroundCall("send-again", qApp);
+  return *call;
+}
+
+static void tellNotSentAgain(qsizetype files, const QString& reasons) {
+  const QString text = files == 1 ? klSendOneAgainFailed() : klSendAgainFailed();
+  Messages::tell(SystemLogWindow::openOne(), fillPlaceholders(text, {reasons}));
 }
 
 void LogRowMenu::sendAgain() {
   const QList<RepeatableFile> files = std::exchange(m_files, {});
-  if (files.isEmpty() || !Messages::askYesNo(m_list->window(), sendAgainQuestion(files))) return;
-  m_touch.run<QStringList>(
+  if (files.isEmpty()) return;
+  if (touching().running()) return Messages::tell(m_list->window(), klLogBusy());  // it would drop the answer
+  if (!Messages::askYesNo(m_list->window(), sendAgainQuestion(files))) return;
+  touching().run<QStringList>(
       0,
       [files](const Cancelled&) {
         QStringList reasons;
@@ -118,10 +135,9 @@ void LogRowMenu::sendAgain() {
           if (const IoResult made = makeDueAgain(one.file); !made.ok()) reasons << made.message();
         return reasons;
       },
-      [this](const QStringList& reasons) {
-        if (reasons.isEmpty()) return;
+      [](const QStringList& reasons) {
         const QString shown = reasons.first(qMin(reasons.size(), MostNamed)).join(u'\n');
-        Messages::tell(m_list->window(), fillPlaceholders(klSendAgainFailed(), {shown}));
+        if (!reasons.isEmpty()) tellNotSentAgain(reasons.size(), shown);
       },
-      [this] { Messages::tell(m_list->window(), fillPlaceholders(klSendAgainFailed(), {klLogBusy()})); });
+      [count = files.size()] { tellNotSentAgain(count, klLogBusy()); });
 }

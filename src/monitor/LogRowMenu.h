@@ -23,7 +23,7 @@ class LogRowMenu : public QObject {
   LogListView* m_list;
   std::optional<LogSource> m_log;
   QList<RepeatableFile> m_files;  // of the menu that is open
-  BackgroundCall m_copy, m_look, m_touch;
+  BackgroundCall m_copy, m_look;
 };
 
 /// The question that is asked before files are sent again, with their names.

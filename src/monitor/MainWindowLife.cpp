@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <QTimer>
 
+#include "monitor/SystemLogWindow.h"
 #include "monitor/VTUploaderMainWIndow.h"
 #include "platform/Problems.h"
 #include "storage/Preferences.h"
@@ -91,7 +92,9 @@ void VTUploaderMainWIndow::expectSessionEnd() {
 }
 
 bool VTUploaderMainWIndow::Event_CancelClose() {
-  return !Messages::askYesNo(this, VTULocalization::klSureYouWantToQuit());
+  if (!Messages::askYesNo(this, VTULocalization::klSureYouWantToQuit())) return true;
+  SystemLogWindow* const log = SystemLogWindow::openOne();
+  return log && !m_quitting && !log->close();  // which asks while it exports
 }
 
 void VTUploaderMainWIndow::closeEvent(QCloseEvent* event) {

@@ -141,6 +141,7 @@ qint64 SystemLogWindow::takeQueued() {
 
 void SystemLogWindow::LogAddTimer_Action() {
   if (m_load.running() || m_delete.running() || m_row.running() || m_find->searching()) return;
+  if (!m_find->error().isEmpty()) return;  // one row would look like all that match
   if (const qint64 id = takeQueued()) showLogRow(id);
 }
 
@@ -180,7 +181,9 @@ void SystemLogWindow::emptyList(const QString& reason) {
 
 void SystemLogWindow::updateNote() {
   const bool busy = m_load.running() || m_find->searching();
-  const QString reason = m_model->all().isEmpty() ? m_emptyReason : klLogNoMatch();
+  const QString& failed = m_find->error();
+  const QString noMatch = failed.isEmpty() ? klLogNoMatch() : fillPlaceholders(klLogUnreadable(), {failed});
+  const QString reason = m_model->all().isEmpty() ? m_emptyReason : noMatch;
   TheData->setNote(busy || m_model->rowCount() > 0 ? QString() : reason);
 }
 

@@ -73,7 +73,7 @@ TaskPointer TaskListModel::task(int row) const {
 QStringList TaskListModel::faultyTasks() const {
   QStringList names;
   for (const Row& row : m_rows)
-    if (row.look.state == UploaderTask::Fault) names << row.task->Name;
+    if (!row.task->disabled.load() && row.task->Status.load() == UploaderTask::Fault) names << row.task->Name;
   return names;
 }
 

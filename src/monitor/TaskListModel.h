@@ -38,7 +38,7 @@ class TaskListModel : public QAbstractTableModel {
 
   /// The task of a row; empty for a row that there isn't.
   [[nodiscard]] TaskPointer task(int row) const;
-  /// Names of the live rows whose folders are at fault.
+  /// Names of the tasks that are switched on and can't use their folders, also while uploading is held.
   [[nodiscard]] QStringList faultyTasks() const;
   /// Whether a row waits for its first evaluation.
   [[nodiscard]] bool hasUnevaluated() const;

@@ -176,6 +176,7 @@ StripInput VTUploaderMainWIndow::stripInput() {
   input.problems = Problems::present();
   input.faultyTasks = m_model->faultyTasks();
   input.phase = m_phase;
+  input.held = !UploadThread::Enabled.load();
   input.now = QDateTime::currentDateTime();
   input.wellSince = m_wellSince.update(input);
   return input;

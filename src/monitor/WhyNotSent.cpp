@@ -117,15 +117,16 @@ bool WhyNotSent::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void WhyNotSent::drop(const TaskPointer& task, const QList<QUrl>& urls) {
-  const auto file = urls.size() == 1 ? FolderItem::fromNativePath(urls.first().toLocalFile()) : std::nullopt;
+  const bool one = urls.size() == 1;
+  const auto file = one ? FolderItem::fromNativePath(urls.first().toLocalFile()) : std::nullopt;
   // The program that the file comes from waits until the drop is over.
   QMetaObject::invokeMethod(
       this,
-      [this, task, file] {
+      [this, task, file, one] {
         if (file)
           explain(task, *file);
         else
-          Messages::tell(m_list->window(), klWhyOneFile(), false);
+          Messages::tell(m_list->window(), one ? klWhyNotLocal() : klWhyOneFile(), false);
       },
       Qt::QueuedConnection);
 }

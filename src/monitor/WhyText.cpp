@@ -174,7 +174,7 @@ WhyAnswer whyAnswer(const FileExplanation& explanation, const UploaderTask& task
   const Sentences sentences(explanation, task);
   for (const FileExplanation::Answer& rule : explanation.answers) add(rule.keepsOut, sentences.of(rule));
 
-  if (!enabled) answer.lines.append({WhyLine::Tone::Note, klWhyPaused()});
+  if (!enabled) answer.lines.append({WhyLine::Tone::Note, klUploadingHeld()});
   for (const Problem& problem : problems)
     if (concerns(problem, task))
       answer.lines.append({WhyLine::Tone::Note, fillPlaceholders(klWhyReported(), {problemText(problem)})});

@@ -2,8 +2,14 @@
 
 bool sameText(const QString& one, const QString& other) { return one.compare(other, Qt::CaseInsensitive) == 0; }
 
-void appendDistinct(QStringList& list, const QString& text) {
-  if (!list.contains(text, Qt::CaseInsensitive)) list.append(text);
+bool DistinctTexts::Less::operator()(const QString& one, const QString& other) const {
+  return one.compare(other, Qt::CaseInsensitive) < 0;
+}
+
+bool DistinctTexts::take(const QString& text) {
+  const bool isNew = m_seen.insert(text).second;
+  if (isNew) m_list.append(text);
+  return isNew;
 }
 
 QString recordText(const Dictionary& record, const QString& key) {

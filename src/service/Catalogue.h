@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 #include <atomic>
+#include <set>
 
 #include "service/VantryUtil.h"
 
@@ -57,7 +58,19 @@ class Catalogue {
 
 /// Equal without regard to case.
 [[nodiscard]] bool sameText(const QString& one, const QString& other);
-/// Appends a text unless the list holds it, in any case.
-void appendDistinct(QStringList& list, const QString& text);
+/// Texts that differ in more than case, in the order of their coming: of those that don't, the first stands.
+class DistinctTexts {
+ public:
+  /// Takes a text; false if it is there already.
+  bool take(const QString& text);
+  [[nodiscard]] const QStringList& list() const { return m_list; }
+
+ private:
+  struct Less {
+    bool operator()(const QString& one, const QString& other) const;
+  };
+  std::set<QString, Less> m_seen;
+  QStringList m_list;
+};
 /// A field of a record as text: empty if it is missing.
 [[nodiscard]] QString recordText(const Dictionary& record, const QString& key);

@@ -30,17 +30,17 @@ bool VTInstrumentTrack::everFetched() { return catalogue().everFetched(); }
 void VTInstrumentTrack::forget() { catalogue().forget(); }
 
 QStringList VTInstrumentTrack::InstrumentNames() {
-  QStringList names;
-  for (const VTInstrumentTrack& track : Tracks()) appendDistinct(names, track.InstrumentIdentity());
-  return names;
+  DistinctTexts names;
+  for (const VTInstrumentTrack& track : Tracks()) names.take(track.InstrumentIdentity());
+  return names.list();
 }
 
 QStringList VTInstrumentTrack::GetTargetsForDevice(const QString& instrumentIdentity) {
-  QStringList targets;
+  DistinctTexts targets;
   for (const VTInstrumentTrack& track : Tracks()) {
-    if (sameText(track.InstrumentIdentity(), instrumentIdentity)) appendDistinct(targets, track.TargetIdentity());
+    if (sameText(track.InstrumentIdentity(), instrumentIdentity)) targets.take(track.TargetIdentity());
   }
-  return targets;
+  return targets.list();
 }
 
 QString VTInstrumentTrack::GetITWorkflowNameForInstrumentAndTarget(const QString& instrumentIdentity,

@@ -28,17 +28,17 @@ bool VTTrack::everFetched() { return catalogue().everFetched(); }
 void VTTrack::forget() { catalogue().forget(); }
 
 QStringList VTTrack::ListDevices() {
-  QStringList devices;
-  for (const VTTrack& track : Tracks()) appendDistinct(devices, track.Device);
-  return devices;
+  DistinctTexts devices;
+  for (const VTTrack& track : Tracks()) devices.take(track.Device);
+  return devices.list();
 }
 
 QStringList VTTrack::GetTracksForDevice(const QString& device) {
-  QStringList names;
+  DistinctTexts names;
   for (const VTTrack& track : Tracks()) {
-    if (sameText(track.Device, device)) appendDistinct(names, track.TrackName);
+    if (sameText(track.Device, device)) names.take(track.TrackName);
   }
-  return names;
+  return names.list();
 }
 
 QString VTTrack::GetTrackWorkflowNameForDeviceAndTrack(const QString& device, const QString& track) {

@@ -1,5 +1,7 @@
 // The editor's form, offscreen, by object name: its colours, lists and catalogues, and the live sample.
 
+#include <semaphore>
+
 #include "EditorFixture.h"
 #include "practice/PracticeService.h"
 #include "service/VantryUtil.h"
@@ -49,12 +51,32 @@ class tst_EditTaskWindow : public QObject {
     QVERIFY(fixture.isRed("SelectTrackLabel") && !fixture.canSave());
   }
 
+  void ofRowsThatDifferInCaseTheFirstStands() {
+    EditorFixture fixture;
+    QList<VTTrack> tracks;
+    for (const char* const name : {"Plain", "straße", "É", "pLAIN", "STRASSE", "é", "plain", "Last", ""}) {
+      tracks << VTTrack();
+      tracks.last().Device = tracks.size() % 2 ? u"Press"_s : u"pRESS"_s;
+      tracks.last().TrackName = QString::fromUtf8(name);
+      tracks.last().TrackWorkflowName = QString::number(tracks.size());
+    }
+    tracks << tracks.first();
+    tracks.last().Device = u"Another"_s;
+    VTTrack::setTracks(tracks);
+    QStringList rows;
+    for (const auto& row : TrackChoices::targets(TrackChoices::Kind::Print, u"PRESS"_s))
+      rows << row.text + u'=' + row.workflowName;
+    QCOMPARE(rows.join(u' '), u"Plain=1 straße=2 É=3 STRASSE=5 Last=8 =9"_s);
+  }
+
   void anEmptyCatalogueSaysWhyAndIsFetched() {
     EditorFixture fixture;
     VTTrack::setTracks({});
     const auto reason = [&](const char* list = "TrackList1") { return fixture.list(list)->toolTip(); };
     fixture.openNew();
     QVERIFY(reason().contains(u"no login is stored"_s) && !fixture.enabled("ClearProcessDateStampButton"));
+    std::atomic<bool> asked = false;
+    std::binary_semaphore answer(0);
     PracticeService service;
     QVERIFY(service.start());
     VantryUtil::setExtraCaFile(service.caFile());
@@ -72,6 +94,23 @@ class tst_EditTaskWindow : public QObject {
     QVERIFY(reason().isEmpty());
     QCOMPARE(fixture.list("TrackList2")->currentData().toString(), PracticeService::knownPrintTrack());
     QTRY_VERIFY(fixture.canSave());
+
+    // A track that is chosen before the editor's own fetch ends stays.
+    const QList<VTTrack> known = VTTrack::Tracks();
+    service.whenBodyReaches(
+        1, [&] { asked = true, (void)answer.try_acquire_for(std::chrono::minutes(2)); }, "TrackList");
+    VTTrack::setTracks({});
+    fixture.open(task);
+    QTRY_VERIFY(asked);
+    VTTrack::setTracks(known);
+    for (const int kind : {1, 0}) fixture.list("Warden")->setCurrentIndex(kind);
+    const int other = fixture.list("TrackList1")->currentIndex() == 0 ? 1 : 0;
+    fixture.list("TrackList1")->setCurrentIndex(other);
+    answer.release();
+    QVERIFY(BackgroundCall::waitForAll(60'000));
+    QCoreApplication::processEvents();
+    QCOMPARE(fixture.list("TrackList1")->currentIndex(), other);
+    QVERIFY(VTTrack::everFetched());
     VantryUtil::setAccountURL({});
     VantryUtil::setExtraCaFile({});
   }
@@ -91,13 +130,13 @@ class tst_EditTaskWindow : public QObject {
                                   u"b.txt – not changed since"_s})
       QVERIFY2(reasons().contains(reason), qPrintable(reasons()));
     fixture.type("FileNameExclusion", u"^draft"_s);
-    QTRY_COMPARE(fixture.sample(), u"1 of 6 files match: a.txt"_s);
+    QTRY_COMPARE(fixture.sample(), u"1 of 6 files matches: a.txt"_s);
     QVERIFY(reasons().contains(u"draft.txt – excluded"_s));
     const BoxAnswer yes(QMessageBox::Yes);
     fixture.press("ClearProcessDateStampButton");
     QTRY_COMPARE(fixture.sample(), u"2 of 6 files match: a.txt, b.txt"_s);
     fixture.type("FileName", u"b"_s);
-    QTRY_COMPARE(fixture.sample(), u"1 of 6 files match: b.txt"_s);
+    QTRY_COMPARE(fixture.sample(), u"1 of 6 files matches: b.txt"_s);
     fixture.list("Extension")->setCurrentIndex(5);
     QTRY_COMPARE(fixture.sample(), u"None of the 6 files matches"_s);
     fixture.list("Extension")->setCurrentIndex(0);

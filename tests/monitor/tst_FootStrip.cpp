@@ -23,6 +23,12 @@ static StripInput with(const QList<Problem>& problems, const QStringList& faulty
   return input;
 }
 
+static StripInput held(StripInput input, StartPhase phase = StartPhase::Running) {
+  input.held = true;
+  input.phase = phase;
+  return input;
+}
+
 static StripInput sending(qint64 sent, qint64 total, const QString& file = u"f"_s) {
   StripInput input = with({{Kind::CopyFailed, u"A"_s, u"x.txt: disk full"_s}});
   input.activity = {true, u"Press 3"_s, file, sent, total};
@@ -59,6 +65,10 @@ class tst_FootStrip : public QObject {
          "writable."_s,
          {}},
         {with({folder}, {u"C"_s}), Tone::Wrong, words(folder), {}},  // known in more detail it is told once
+        {held(with({})), Tone::Quiet, VTULocalization::klUploadingHeld(), {}},
+        {held(with({}), StartPhase::Checking), Tone::Quiet, VTULocalization::klUploadingHeld(), {}},
+        {held(with({}), StartPhase::Connecting), Tone::Quiet, VTULocalization::klStripConnecting(), {}},
+        {held(with({copy})), Tone::Wrong, words(copy), {}},
         {with({}), Tone::Well, u"All is well since 11:00"_s, {}}};
     for (const auto& [input, tone, text, more] : rows) {
       const StripLine line = composeStrip(input);
@@ -82,6 +92,7 @@ class tst_FootStrip : public QObject {
     QVERIFY(!since.update(with({{Kind::LogRowLost, {}, {}}})).isValid());
     QCOMPARE(since.update(input), Noon.addSecs(60));
     QVERIFY(!since.update(with({}, {u"D"_s})).isValid());
+    QVERIFY(since.update(input).isValid() && !since.update(held(with({}))).isValid());
   }
 };
 

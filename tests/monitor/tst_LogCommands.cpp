@@ -89,6 +89,23 @@ class tst_LogCommands : public QObject {
     QTRY_VERIFY(fixture.details().size() > 1);
   }
 
+  void aSearchThatFailsLeavesNothingToExport() {
+    LogFixture fixture;
+    fixture.fill(20'000);
+    fixture.open();
+    QTRY_COMPARE(fixture.rows(), 20'000);
+    fixture.run("pragma wal_checkpoint(truncate)");
+    QFile log(fixture.file().NativePath());
+    QVERIFY(log.open(QIODevice::ReadWrite) && log.seek(log.size() / 2 & ~0xffff));
+    QCOMPARE(log.write(QByteArray(0x10000, '\0')), 0x10000);
+    log.close();
+    int most = 0;
+    connect(fixture.list()->model(), &QAbstractItemModel::modelReset, this, [&] { most = qMax(most, fixture.rows()); });
+    fixture.type("FindField", u"row"_s);
+    QTRY_VERIFY2(fixture.note().contains(u"malformed"_s), qPrintable(fixture.note()));
+    QVERIFY(most > 0 && fixture.rows() == 0);
+  }
+
   void anExportWritesWhatTheListShows() {
     LogFixture fixture;
     LogFixture::write(u"a\tb"_s, u"two\nlines"_s);

@@ -46,7 +46,7 @@ class tst_MainWindow : public QObject {
     fixture.select(0);
     const BoxAnswer ok(QMessageBox::Ok);
     fixture.press("DuplicateButton");
-    QVERIFY(ok.text().startsWith(u"The task could not be duplicated. "_s) && ok.text().size() > 40);
+    QVERIFY(ok.text().startsWith(u"The task could not be duplicated: "_s) && ok.text().size() > 40);
     QCOMPARE(fixture.names(), u"A|B"_s);
   }
 

@@ -56,6 +56,10 @@ class tst_MainWindowLife : public QObject {
     QCOMPARE(fixture.strip(), VTULocalization::klStripChecking());
     for (const TaskPointer& task : UploaderTask::allTasks()) task->Status = UploaderTask::Ready;
     QTRY_VERIFY(fixture.strip().startsWith(u"All is well since "_s));
+    {
+      const UploadHold hold;
+      QTRY_COMPARE(fixture.strip(), VTULocalization::klUploadingHeld());
+    }
     fixture.press("NewButton");
     QCOMPARE(changed, 1);
     std::thread(fixture.startUp->tasksLoaded).join();
