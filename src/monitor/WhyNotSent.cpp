@@ -47,6 +47,7 @@ WhyNotSentWindow::WhyNotSentWindow(const TaskPointer& task, const FolderItem& fi
   WhyAnswers->setObjectName(u"WhyAnswers"_s);
   WhyAnswers->setAccessibleName(klWhyAnswers());
   WhyAnswers->setWordWrap(true);
+  WhyAnswers->setTextElideMode(Qt::ElideNone);  // a line that breaks between Japanese words would be cut
   WhyAnswers->setIconSize({16, 16});
   WhyAnswers->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   WhyAnswers->setSpacing(2);
