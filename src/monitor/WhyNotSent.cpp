@@ -47,7 +47,6 @@ WhyNotSentWindow::WhyNotSentWindow(const TaskPointer& task, const FolderItem& fi
   WhyAnswers->setObjectName(u"WhyAnswers"_s);
   WhyAnswers->setAccessibleName(klWhyAnswers());
   WhyAnswers->setWordWrap(true);
-  WhyAnswers->setTextElideMode(Qt::ElideNone);  // a line that breaks between Japanese words would be cut
   WhyAnswers->setIconSize({16, 16});
   WhyAnswers->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   WhyAnswers->setSpacing(2);
@@ -74,6 +73,7 @@ void WhyNotSentWindow::fill(const WhyAnswer& answer) {
   for (const WhyLine& line : answer.lines) {
     auto* const item = new QListWidgetItem(line.text, WhyAnswers);
     item->setData(ToneRole, static_cast<int>(line.tone));
+    item->setToolTip(plainToolTip(line.text));  // the toolkit cuts some lines without blanks instead of breaking them
     QString spoken = line.text;
     switch (line.tone) {
       case WhyLine::Tone::Good:
