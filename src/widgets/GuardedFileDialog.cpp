@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QCompleter>
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QDirIterator>
@@ -75,6 +76,7 @@ void fitColumns(QTreeView& list) {
   };
   const QLocale locale = QLocale::system();  // in which the toolkit's model writes them
   fit(Size, locale.formattedDataSize(1023));
+  fit(Type, QCoreApplication::translate("QAbstractFileIconProvider", "Folder"));
   fit(Date, locale.toString(QDateTime(QDate(2028, 12, 28), QTime(22, 58, 58)), QLocale::ShortFormat));
   header.setStretchLastSection(false);
   header.setSectionResizeMode(Name, QHeaderView::Stretch);
