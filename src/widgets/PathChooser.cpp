@@ -42,7 +42,7 @@ class PlainIcons : public QFileIconProvider {
     return QFileIconProvider::icon(info.isDir() ? Folder : File);
   }
   [[nodiscard]] QString type(const QFileInfo& info) const override {
-    // The words of the toolkit's own provider, which has them in every language.
+    // The words of the toolkit's own provider, which are translated where these are not.
     return QCoreApplication::translate("QAbstractFileIconProvider", info.isDir() ? "Folder" : "File");
   }
 };

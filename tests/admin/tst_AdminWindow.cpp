@@ -3,6 +3,7 @@
 
 #include "AdminFixture.h"
 #include "admin/AdminPasswordWindow.h"
+#include "text/VTULocalization.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -34,6 +35,7 @@ class tst_AdminWindow : public QObject {
              "AdminPassword AdminPasswordRepeat saveConfigurationButton LoadConfigurationButton CancelAdminButton "
              "OKAdminButton"_s);
     QCOMPARE(off.join(u' '), u"CheckAndConnectButton AdminPassword AdminPasswordRepeat OKAdminButton"_s);
+    QVERIFY2(fixture.control("OKAdminButton")->toolTip().contains(VTULocalization::klSoapPassword()), "why it is off");
   }
 
   void theLockGuardsOK() {
