@@ -1047,6 +1047,10 @@ $1</translation>
             <source>No more than 1,000 entries can be sent again at once.</source>
             <translation>Es können höchstens 1.000 Einträge auf einmal erneut gesendet werden.</translation>
         </message>
+        <message id="VTULocalization.klSendAgainNone">
+            <source>None of these files is in its input folder any more.</source>
+            <translation>Keine dieser Dateien liegt noch im Eingabeordner.</translation>
+        </message>
         <message id="VTULocalization.klSendAgainFailed">
             <source>These files are not sent again, because their date could not be set:
 
@@ -1522,6 +1526,10 @@ $1</translation>
         <message id="VTUploaderMainWIndow.klHelp">
             <source>Help</source>
             <translation>Hilfe</translation>
+        </message>
+        <message id="VTUploaderMainWIndow.klNoTasks">
+            <source>There are no tasks yet. Press &quot;$1&quot; to set up the first one.</source>
+            <translation>Es gibt noch keine Aufgaben. Mit „$1“ richten Sie die erste ein.</translation>
         </message>
         <message id="VTUploaderMainWIndow.klTaskEditor">
             <source>The task editor</source>

@@ -1047,6 +1047,10 @@ $1</translation>
             <source>No more than 1,000 entries can be sent again at once.</source>
             <translation>No se pueden reenviar más de 1000 entradas a la vez.</translation>
         </message>
+        <message id="VTULocalization.klSendAgainNone">
+            <source>None of these files is in its input folder any more.</source>
+            <translation>Ninguno de estos archivos está ya en su carpeta de entrada.</translation>
+        </message>
         <message id="VTULocalization.klSendAgainFailed">
             <source>These files are not sent again, because their date could not be set:
 
@@ -1522,6 +1526,10 @@ $1</translation>
         <message id="VTUploaderMainWIndow.klHelp">
             <source>Help</source>
             <translation>Ayuda</translation>
+        </message>
+        <message id="VTUploaderMainWIndow.klNoTasks">
+            <source>There are no tasks yet. Press &quot;$1&quot; to set up the first one.</source>
+            <translation>Todavía no hay tareas. Pulse «$1» para configurar la primera.</translation>
         </message>
         <message id="VTUploaderMainWIndow.klTaskEditor">
             <source>The task editor</source>

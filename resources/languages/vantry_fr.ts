@@ -1047,6 +1047,10 @@ $1</translation>
             <source>No more than 1,000 entries can be sent again at once.</source>
             <translation>Il n’est pas possible de renvoyer plus de 1 000 entrées à la fois.</translation>
         </message>
+        <message id="VTULocalization.klSendAgainNone">
+            <source>None of these files is in its input folder any more.</source>
+            <translation>Aucun de ces fichiers ne se trouve encore dans son dossier d’entrée.</translation>
+        </message>
         <message id="VTULocalization.klSendAgainFailed">
             <source>These files are not sent again, because their date could not be set:
 
@@ -1522,6 +1526,10 @@ $1</translation>
         <message id="VTUploaderMainWIndow.klHelp">
             <source>Help</source>
             <translation>Aide</translation>
+        </message>
+        <message id="VTUploaderMainWIndow.klNoTasks">
+            <source>There are no tasks yet. Press &quot;$1&quot; to set up the first one.</source>
+            <translation>Il n’y a pas encore de tâche. « $1 » permet de configurer la première.</translation>
         </message>
         <message id="VTUploaderMainWIndow.klTaskEditor">
             <source>The task editor</source>

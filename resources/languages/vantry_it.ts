@@ -1047,6 +1047,10 @@ $1</translation>
             <source>No more than 1,000 entries can be sent again at once.</source>
             <translation>Non è possibile inviare di nuovo più di 1.000 voci alla volta.</translation>
         </message>
+        <message id="VTULocalization.klSendAgainNone">
+            <source>None of these files is in its input folder any more.</source>
+            <translation>Nessuno di questi file si trova ancora nella cartella di input.</translation>
+        </message>
         <message id="VTULocalization.klSendAgainFailed">
             <source>These files are not sent again, because their date could not be set:
 
@@ -1522,6 +1526,10 @@ $1</translation>
         <message id="VTUploaderMainWIndow.klHelp">
             <source>Help</source>
             <translation>Aiuto</translation>
+        </message>
+        <message id="VTUploaderMainWIndow.klNoTasks">
+            <source>There are no tasks yet. Press &quot;$1&quot; to set up the first one.</source>
+            <translation>Non ci sono ancora attività. Premere «$1» per configurare la prima.</translation>
         </message>
         <message id="VTUploaderMainWIndow.klTaskEditor">
             <source>The task editor</source>

@@ -1047,6 +1047,10 @@ $1</translation>
             <source>No more than 1,000 entries can be sent again at once.</source>
             <translation>一度に再送信できるのは 1,000 件までです。</translation>
         </message>
+        <message id="VTULocalization.klSendAgainNone">
+            <source>None of these files is in its input folder any more.</source>
+            <translation>これらのファイルはどれも入力フォルダーに残っていません。</translation>
+        </message>
         <message id="VTULocalization.klSendAgainFailed">
             <source>These files are not sent again, because their date could not be set:
 
@@ -1522,6 +1526,10 @@ $1</translation>
         <message id="VTUploaderMainWIndow.klHelp">
             <source>Help</source>
             <translation>ヘルプ</translation>
+        </message>
+        <message id="VTUploaderMainWIndow.klNoTasks">
+            <source>There are no tasks yet. Press &quot;$1&quot; to set up the first one.</source>
+            <translation>タスクはまだありません。「$1」を押して最初のタスクを設定してください。</translation>
         </message>
         <message id="VTUploaderMainWIndow.klTaskEditor">
             <source>The task editor</source>

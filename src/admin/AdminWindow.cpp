@@ -8,6 +8,7 @@
 #include "service/VantryUtil.h"
 #include "text/Placeholders.h"
 #include "text/VTULocalization.h"
+#include "widgets/Captions.h"
 #include "widgets/Colours.h"
 #include "widgets/Messages.h"
 
@@ -91,6 +92,11 @@ void AdminWindow::checkCanSave() {
     label->buddy()->setAccessibleDescription(check.passwordsWrong ? klRequired() : QString());
   }
   OKAdminButton->setEnabled(check.canSave);
+  QStringList required;
+  if (SoapLogin->text().trimmed().isEmpty()) required << klSOAPLogin();
+  if (soapPassword->text().trimmed().isEmpty()) required << klSoapPassword();
+  if (check.passwordsWrong) required << klEnteradminpassword() << klReenteradminpassword();
+  OKAdminButton->setToolTip(requiredToolTip(klRequired(), required));
 }
 
 void AdminWindow::CheckCanTest() {
@@ -106,23 +112,28 @@ void AdminWindow::LockTaskListButton_Action() {
 // The answer of a test that is under way is about values that have just been typed over.
 void AdminWindow::dropTest() {
   m_test.cancel();
-  TestLine->say({});
+  tellTest({});
 }
 
 void AdminWindow::doTest() {
   const ConnectionRequest request{SoapLogin->text().trimmed(), soapPassword->text().trimmed(),
                                   proxyOfFields(TheProxyAddress->text(), TheProxyPort->text())};
-  TestLine->say(klTestRunning());
+  tellTest({klTestRunning(), {}});
   m_test.run<ConnectionAnswer>(
       0, [request](const auto&) { return testConnection(request); },
       [this, proxy = request.proxy](const ConnectionAnswer& answer) { testAnswered(answer, proxy); },
-      [this] { TestLine->say(klNotBegun()); });
+      [this] { tellTest({klNotBegun(), {}}, true); });
 }
 
 void AdminWindow::testAnswered(const ConnectionAnswer& answer, const VantryUtil::ProxySetting& proxy) {
-  const ConnectionLine line = connectionLine(answer, proxy);
-  TestLine->say(line.text, line.detail);
+  tellTest(connectionLine(answer, proxy), answer.kind != ConnectionAnswer::Kind::Succeeded);
   if (answer.kind == ConnectionAnswer::Kind::ErrorAnswered) Messages::tell(this, VantryUtil::errToString(answer.err));
+}
+
+void AdminWindow::tellTest(const ConnectionLine& line, bool wrong) {
+  m_testWrong = wrong;
+  TestLine->say(line.text, line.detail);
+  paintQuietParts();
 }
 
 void AdminWindow::OKAdminButton_Action() {

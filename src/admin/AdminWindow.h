@@ -53,6 +53,7 @@ class AdminWindow : public QDialog {
   void OKAdminButton_Action();
 
   void doTest();
+  void tellTest(const ConnectionLine& line, bool wrong = false);
   void testAnswered(const ConnectionAnswer& answer, const VantryUtil::ProxySetting& proxy);
   void dropTest();
 
@@ -66,6 +67,7 @@ class AdminWindow : public QDialog {
   FormControls m_controls;
   AdminOutcome m_outcome;
   bool m_opened = false;
+  bool m_testWrong = false;
   BackgroundCall m_test, m_copying;
   PathChooser m_chooser;
   std::shared_ptr<CopyJob> m_job;  // under way; nullptr otherwise

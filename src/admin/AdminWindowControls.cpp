@@ -72,5 +72,6 @@ void AdminWindow::setTabOrderOfControls() {
 
 void AdminWindow::paintQuietParts() {
   Separator1->setPalette(quieter(palette(), 6));
-  for (QuietLine* const line : {TestLine, BackupLine}) line->setPalette(quieter(palette(), 2));
+  TestLine->setPalette(noteColours(palette(), m_testWrong));
+  BackupLine->setPalette(noteColours(palette(), false));
 }

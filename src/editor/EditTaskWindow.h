@@ -80,6 +80,7 @@ class EditTaskWindow : public QDialog {
   void CheckCanSave();
   void paintCheck();
   void paintQuietParts();
+  void paintSample();
   void Warden_Change();
   void UpdateTrackSelectionOptions();
   void TrackList1_Change();

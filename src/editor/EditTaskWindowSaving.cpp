@@ -5,6 +5,7 @@
 #include "storage/Preferences.h"
 #include "text/Placeholders.h"
 #include "text/VTULocalization.h"
+#include "widgets/Captions.h"
 #include "widgets/Colours.h"
 #include "widgets/Messages.h"
 
@@ -12,9 +13,14 @@ using namespace Qt::Literals::StringLiterals;
 using namespace VTULocalization;
 
 void EditTaskWindow::paintQuietParts() {
-  Sample->setPalette(quieter(palette(), 2));
+  paintSample();
   FileNameExclusion->setPalette(readableCue(palette()));
   for (QFrame* const line : std::as_const(m_separators)) line->setPalette(quieter(palette(), 6));
+}
+
+void EditTaskWindow::paintSample() {
+  const bool wrong = theInputFolder.state() == FolderState::Missing || exclusionError(FileNameExclusion->text());
+  Sample->setPalette(noteColours(palette(), wrong));
 }
 
 void EditTaskWindow::CheckCanSave() {
@@ -31,11 +37,13 @@ void EditTaskWindow::paintCheck() {
   form.secondSelected = TrackList2->currentIndex() >= 0;
   const SaveCheck check = checkCanSave(form);
 
-  const auto paint = [this](QLabel* label, bool missing) {
+  QStringList required;
+  const auto paint = [&](QLabel* label, bool missing) {
     QPalette colours;
     colours.setColor(QPalette::WindowText, missing ? requiredColor(palette()) : plainColor(palette()));
     label->setPalette(colours);
     label->buddy()->setAccessibleDescription(missing ? klRequired() : QString());
+    if (missing) required << label->accessibleName();
   };
   paint(TaskNameLabel, check.nameMissing);
   paint(outputFolderLabel, false);
@@ -43,9 +51,11 @@ void EditTaskWindow::paintCheck() {
   paint(SelectTrackLabel, check.firstMissing);
   paint(SelectTargetLabel, check.secondMissing);
   OkButton->setEnabled(check.canSave);
+  OkButton->setToolTip(requiredToolTip(klRequired(), required));
 }
 
 void EditTaskWindow::updateSample() {
+  paintSample();
   const FolderState state = theInputFolder.state();
   if (const auto error = exclusionError(FileNameExclusion->text())) return Sample->say(error->message);
   if (state == FolderState::None) return Sample->say({});

@@ -62,6 +62,7 @@ FileExplanation explainFile(const UploaderTask& task, const FolderItem& file) {
   if (questions.ask(Verdict::NotAFile) || questions.ask(Verdict::Empty)) return explanation;
   const bool unreadable = questions.ask(Verdict::Unreadable);
   if (questions.ask(Verdict::Older) || unreadable) return explanation;
-  if (!questions.ask(Verdict::DealtWith)) questions.ask(Verdict::StillMoving);
+  // Whether a file of another folder is at rest is not known, since the task never saw it.
+  if (!questions.ask(Verdict::DealtWith) && !explanation.elsewhere) questions.ask(Verdict::StillMoving);
   return explanation;
 }

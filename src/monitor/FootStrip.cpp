@@ -10,6 +10,8 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+constexpr qsizetype MostTold = 12;
+
 /// The lower, the sooner a person must know.
 enum class Rank { NothingIsSent, SomethingAtStake, OneTaskHindered, ToKnow, NoLogin, WaitsForLogin };
 
@@ -77,6 +79,13 @@ static QStringList wrongs(const StripInput& input) {
   return texts;
 }
 
+/// Under one another, the last ones as a number: a tool tip must not outgrow the screen.
+static QString listed(const QStringList& lines) {
+  if (lines.size() <= MostTold) return lines.join(u'\n');
+  const QString more = QString::number(lines.size() - MostTold);
+  return lines.first(MostTold).join(u'\n') + u'\n' + fillPlaceholders(MonitorText::klStripAndMore(), {more});
+}
+
 static QString sendingText(const EngineActivity& activity) {
   const qint64 total = std::max<qint64>(activity.totalBytes, 1);
   const qint64 sent = std::clamp<qint64>(activity.sentBytes, 0, total);
@@ -97,7 +106,7 @@ StripLine composeStrip(const StripInput& input) {
   using Tone = StripLine::Tone;
   const QStringList wrong = wrongs(input);
   const auto withDetails = [&wrong](Tone tone, const QString& text) {
-    return StripLine{tone, text, {}, (QStringList(text) + wrong).join(u'\n')};
+    return StripLine{tone, text, {}, listed(QStringList(text) + wrong)};
   };
   if (!input.notice.isEmpty()) return withDetails(Tone::Quiet, onOneLine(input.notice));
   if (input.activity.sending) return withDetails(Tone::Sending, sendingText(input.activity));
@@ -105,7 +114,7 @@ StripLine composeStrip(const StripInput& input) {
     const QString more = wrong.size() == 1
                              ? QString()
                              : fillPlaceholders(MonitorText::klStripAndMore(), {QString::number(wrong.size() - 1)});
-    return {Tone::Wrong, wrong.first(), more, wrong.join(u'\n')};
+    return {Tone::Wrong, wrong.first(), more, listed(wrong)};
   }
   switch (input.phase) {
     case StartPhase::Connecting:  // held or not, as nothing is sent before the tasks are there

@@ -39,10 +39,28 @@ static void dressList(QTableView& list) {
   list.setWordWrap(false);
 }
 
+namespace {
+
+/// Files and folders are told apart by their ends, so their middles give way; notes are read from their beginning.
+class RowDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    const bool notes = index.model()->headerData(index.column(), Qt::Horizontal).toString() == "Notes"_L1;
+    option->textElideMode = notes ? Qt::ElideRight : Qt::ElideMiddle;
+  }
+};
+
+}  // namespace
+
 LogListView::LogListView(LogModel* rows, QWidget* parent)
     : QTableView(parent), m_rows(rows), m_note(new QLabel(viewport())) {
   dressList(*this);
   setModel(rows);
+  setItemDelegate(new RowDelegate(this));
   // A heading asks at each painting whether its whole column is selected, row by row: it gets a selection of its own.
   horizontalHeader()->setSelectionModel(new QItemSelectionModel(rows, this));
   setSelectionMode(ExtendedSelection);

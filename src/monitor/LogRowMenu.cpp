@@ -81,7 +81,7 @@ void LogRowMenu::look(QAction* sendAgain) {
         m_files = files;
         if (!action) return;
         action->setEnabled(!files.isEmpty());
-        action->setToolTip({});
+        action->setToolTip(files.isEmpty() ? klSendAgainNone() : QString());
       },
       [action = QPointer<QAction>(sendAgain)] {
         if (action) action->setToolTip(klLogBusy());

@@ -145,6 +145,11 @@ void VTUploaderMainWIndow::VersionChecker_NewVersionAvailable(const QString& ver
     say(fillPlaceholders(MonitorText::klDownloadNotOpened(), {onOneLine(address)}));
 }
 
+void VTUploaderMainWIndow::BottomShadingRect_DetailsWanted() {
+  const StripLine& line = BottomShadingRect->line();
+  Messages::tell(this, QString(line.details).replace(u'\n', u"\n\n"_s), line.tone == StripLine::Tone::Wrong);
+}
+
 void VTUploaderMainWIndow::HelpButton_MouseUp() {
   const QString address = u"https://%1/other_tools/en/manual/uploader"_s.arg(QString::fromUtf8(ManualHost));
   if (!QDesktopServices::openUrl(QUrl(address))) say(fillPlaceholders(MonitorText::klManualNotOpened(), {address}));

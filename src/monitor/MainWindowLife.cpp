@@ -14,13 +14,20 @@
 #include "text/VTULocalization.h"
 #include "widgets/Messages.h"
 
-static constexpr int SessionEndMs = 60'000;
+constexpr int SessionEndMs = 60'000;
+// The desktop places the window a moment after it is shown; a dialog that comes before that is centred over a place
+// where the window is not.
+constexpr int PlacedMs = 150;
+
+static bool loginIsStored() {
+  return !VantryUtil::SoapUserName().trimmed().isEmpty() && !VantryUtil::SoapPassword().trimmed().isEmpty();
+}
 
 void VTUploaderMainWIndow::showEvent(QShowEvent* event) {
   QMainWindow::showEvent(event);
   if (m_opened) return;
   m_opened = true;
-  QMetaObject::invokeMethod(this, &VTUploaderMainWIndow::Event_Open, Qt::QueuedConnection);
+  QTimer::singleShot(loginIsStored() ? 0 : PlacedMs, this, &VTUploaderMainWIndow::Event_Open);
 }
 
 void VTUploaderMainWIndow::changeEvent(QEvent* event) {
@@ -34,7 +41,7 @@ void VTUploaderMainWIndow::Event_EnableMenuItems() {
 
 void VTUploaderMainWIndow::Event_Open() {
   if (m_closed) return;
-  if (VantryUtil::SoapUserName().trimmed().isEmpty() || VantryUtil::SoapPassword().trimmed().isEmpty()) {
+  if (!loginIsStored()) {
     Problems::raise(Problem::Kind::NoLogin, {}, {});
     AdminOutcome outcome;  // dropped: the start-up asks the service and loads the tasks in any case
     showAdminWindow(outcome);

@@ -1,6 +1,8 @@
 #include "monitor/ShadedStrip.h"
 
+#include <QKeyEvent>
 #include <QPainter>
+#include <QStyleOptionFocusRect>
 
 #include "widgets/Captions.h"
 #include "widgets/Pictures.h"
@@ -21,7 +23,39 @@ void ShadedStrip::setLine(const StripLine& line) {
   setAccessibleName(whole);
   setAccessibleDescription(line.details);
   setToolTip(plainToolTip(line.details));
+  offerDetails();
   update();
+}
+
+QRect ShadedStrip::roomForText() const {
+  const int before = picture().isEmpty() ? 0 : PictureSize.width() + Gap;
+  return rect().adjusted(SideMargin + before, 1, -SideMargin, 0);
+}
+
+void ShadedStrip::offerDetails() {
+  m_tellsLess = !m_line.details.isEmpty() &&
+                (m_line.details != m_line.text || fontMetrics().horizontalAdvance(m_line.text) > roomForText().width());
+  setFocusPolicy(m_tellsLess ? Qt::TabFocus : Qt::NoFocus);
+  setCursor(m_tellsLess ? Qt::PointingHandCursor : Qt::ArrowCursor);
+}
+
+void ShadedStrip::resizeEvent(QResizeEvent* event) {
+  QLabel::resizeEvent(event);
+  offerDetails();
+}
+
+void ShadedStrip::mouseReleaseEvent(QMouseEvent* event) {
+  QLabel::mouseReleaseEvent(event);
+  if (m_tellsLess && event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+    emit detailsWanted();
+}
+
+void ShadedStrip::keyPressEvent(QKeyEvent* event) {
+  const bool pressed = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (m_tellsLess && pressed)
+    emit detailsWanted();
+  else
+    QLabel::keyPressEvent(event);
 }
 
 static QColor mixed(const QColor& a, const QColor& b, double share) {
@@ -56,12 +90,17 @@ QString ShadedStrip::picture() const {
 void ShadedStrip::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   paintGround(painter);
-  QRect room = rect().adjusted(SideMargin, 1, -SideMargin, 0);
+  QRect room = roomForText();
   const QString name = picture();
   if (!name.isEmpty()) {
-    const QPoint at(room.left(), room.top() + (room.height() - PictureSize.height()) / 2);
+    const QPoint at(SideMargin, room.top() + (room.height() - PictureSize.height()) / 2);
     painter.drawPixmap(at, Pictures::load(name, devicePixelRatioF(), PictureSize));
-    room.setLeft(room.left() + PictureSize.width() + Gap);
+  }
+  if (hasFocus()) {
+    QStyleOptionFocusRect focus;
+    focus.initFrom(this);
+    focus.rect = rect().adjusted(SideMargin - Gap, 2, Gap - SideMargin, -1);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
   }
   painter.setPen(palette().color(QPalette::Active, QPalette::WindowText));
   const QFontMetrics metrics = painter.fontMetrics();

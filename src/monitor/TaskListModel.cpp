@@ -42,7 +42,7 @@ void TaskListModel::setTasks(const QList<TaskPointer>& tasks, bool uploadEnabled
   m_rows.clear();
   m_rows.reserve(tasks.size());
   for (const TaskPointer& task : tasks) {
-    m_rows.append({task, {}, 0});
+    m_rows.append({task, {}});
     bringUpToDate(m_rows.last(), uploadEnabled);
   }
   endResetModel();
@@ -63,7 +63,10 @@ void TaskListModel::refresh(bool uploadEnabled) {
 
 void TaskListModel::bringUpToDate(Row& row, bool uploadEnabled) {
   row.uploaded = row.task->UploadedCount.load();
-  row.look = rowLook(uploadEnabled, row.task->disabled.load(), row.task->Status.load());
+  const bool disabled = row.task->disabled.load();
+  const qint64 status = row.task->Status.load();
+  row.look = rowLook(uploadEnabled, disabled, status);
+  row.faulty = !disabled && status == UploaderTask::Fault;
 }
 
 TaskPointer TaskListModel::task(int row) const {
@@ -73,14 +76,13 @@ TaskPointer TaskListModel::task(int row) const {
 QStringList TaskListModel::faultyTasks() const {
   QStringList names;
   for (const Row& row : m_rows)
-    if (!row.task->disabled.load() && row.task->Status.load() == UploaderTask::Fault) names << row.task->Name;
+    if (row.faulty) names << row.task->Name;
   return names;
 }
 
 bool TaskListModel::hasUnevaluated() const {
-  return std::any_of(m_rows.begin(), m_rows.end(), [](const Row& row) {
-    return !row.task->disabled.load() && row.task->Status.load() == UploaderTask::NotEvaluated;
-  });
+  return std::any_of(m_rows.begin(), m_rows.end(),
+                     [](const Row& row) { return row.look.dormant && !row.task->disabled.load(); });
 }
 
 int TaskListModel::rowCount(const QModelIndex& parent) const {

@@ -38,9 +38,9 @@ class TaskListModel : public QAbstractTableModel {
 
   /// The task of a row; empty for a row that there isn't.
   [[nodiscard]] TaskPointer task(int row) const;
-  /// Names of the tasks that are switched on and can't use their folders, also while uploading is held.
+  /// Names of the tasks, not switched off, whose folders are at fault; also while uploading is held.
   [[nodiscard]] QStringList faultyTasks() const;
-  /// Whether a row waits for its first evaluation.
+  /// Whether a row, of a task that is not switched off, is still shown grey: what was found out is not to be seen yet.
   [[nodiscard]] bool hasUnevaluated() const;
 
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
@@ -53,6 +53,7 @@ class TaskListModel : public QAbstractTableModel {
     TaskPointer task;
     RowLook look;
     qint64 uploaded = 0;
+    bool faulty = false;  ///< also while uploading is held and the row is grey
   };
   static void bringUpToDate(Row& row, bool uploadEnabled);
   [[nodiscard]] static QVariant textOf(const Row& row, int column);

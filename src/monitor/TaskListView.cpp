@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QStyle>
 
 #include "monitor/TaskListDelegate.h"
@@ -39,6 +40,20 @@ TaskListView::TaskListView(TaskListModel* rows, QWidget* parent) : QTreeView(par
 int TaskListView::ListIndex() const {
   const QModelIndexList rows = selectionModel()->selectedRows();
   return rows.isEmpty() ? -1 : rows.first().row();
+}
+
+void TaskListView::setNote(const QString& note) {
+  m_note = note;
+  setAccessibleDescription(note);
+  viewport()->update();
+}
+
+void TaskListView::paintEvent(QPaintEvent* event) {
+  QTreeView::paintEvent(event);
+  if (m_note.isEmpty() || model()->rowCount() > 0) return;
+  QPainter painter(viewport());
+  painter.setPen(palette().color(QPalette::Text));
+  painter.drawText(viewport()->rect().adjusted(16, 4, -16, -4), Qt::AlignCenter | Qt::TextWordWrap, m_note);
 }
 
 void TaskListView::keyPressEvent(QKeyEvent* event) {

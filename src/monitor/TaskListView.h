@@ -12,7 +12,14 @@ class TaskListView : public QTreeView {
 
   /// The selected row, -1 for none.
   [[nodiscard]] int ListIndex() const;
+  /// What stands in the place of the rows while there are none.
+  void setNote(const QString& note);
+  [[nodiscard]] const QString& note() const { return m_note; }
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  QString m_note;
 };

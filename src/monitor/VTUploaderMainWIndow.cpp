@@ -8,6 +8,7 @@
 #include "monitor/WhyNotSent.h"
 #include "text/AboutWindow.h"
 #include "text/MainMenuBar.h"
+#include "text/Placeholders.h"
 #include "text/VTULocalization.h"
 #include "version.h"
 #include "widgets/Anchors.h"
@@ -103,8 +104,8 @@ void VTUploaderMainWIndow::buildControls() {
 }
 
 void VTUploaderMainWIndow::buildKeys() {
-  QWidget* const order[] = {HelpButton,      TaskList,     NewButton,   EditButton,
-                            DuplicateButton, RemoveButton, AdminButton, ShowLogbutton};
+  QWidget* const order[] = {HelpButton,   TaskList,    NewButton,     EditButton,       DuplicateButton,
+                            RemoveButton, AdminButton, ShowLogbutton, BottomShadingRect};
   for (size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
   TaskList->setFocus();
 
@@ -132,6 +133,7 @@ void VTUploaderMainWIndow::connectControls() {
   connect(AdminButton, &QPushButton::clicked, this, &Self::AdminButton_Action);
   connect(ShowLogbutton, &QPushButton::clicked, this, &Self::ShowLogbutton_Action);
   connect(HelpButton, &QAbstractButton::clicked, this, &Self::HelpButton_MouseUp);
+  connect(BottomShadingRect, &ShadedStrip::detailsWanted, this, &Self::BottomShadingRect_DetailsWanted);
   connect(m_menus->FileAbout, &QAction::triggered, this, [this] { AboutWindow::_FileAbout_Action(this); });
   connect(m_menus->FileCheckForUpdates, &QAction::triggered, this, &Self::_FileCheckForUpdates_Action);
   VersionChecker.NewVersionAvailable = [this](const QString& version, const QString& url) {
@@ -145,6 +147,8 @@ void VTUploaderMainWIndow::ListTasks() {
   m_model->setTasks(UploaderTask::allTasks(), UploadThread::Enabled.load());
   TaskList->doItemsLayout();
   TaskList->verticalScrollBar()->setValue(scrolled);
+  const bool none = m_phase != StartPhase::Connecting && m_model->rowCount({}) == 0;
+  TaskList->setNote(none ? fillPlaceholders(MonitorText::klNoTasks(), {VTULocalization::klNew()}) : QString());
   TaskList_Change();  // the view drops its selection without a word when the rows are replaced
 }
 

@@ -83,6 +83,7 @@ class VTUploaderMainWIndow : public QMainWindow {
   void AdminButton_Action();
   void ShowLogbutton_Action();
   void HelpButton_MouseUp();
+  void BottomShadingRect_DetailsWanted();
 
   [[nodiscard]] VersionCheckerClass::Exchange updateExchange();
   /// What every way of closing ends in; does its work once.

@@ -73,6 +73,7 @@ void WhyNotSentWindow::fill(const WhyAnswer& answer) {
   for (const WhyLine& line : answer.lines) {
     auto* const item = new QListWidgetItem(line.text, WhyAnswers);
     item->setData(ToneRole, static_cast<int>(line.tone));
+    item->setToolTip(plainToolTip(line.text));  // the toolkit cuts some lines without blanks instead of breaking them
     QString spoken = line.text;
     switch (line.tone) {
       case WhyLine::Tone::Good:

@@ -2,12 +2,14 @@
 
 #include <QFontInfo>
 #include <QFontMetrics>
+#include <algorithm>
 
 #include "widgets/Mnemonics.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 constexpr int SmallestPixels = 9;
+constexpr qsizetype LongestToolTipLine = 80;
 constexpr int FrameWidth = 4;  // what the button's style draws on either side of a caption
 
 bool fitFont(QWidget& control, const QString& text, int room) {
@@ -46,6 +48,18 @@ QString onOneLine(const QString& text, qsizetype limit) {
   return line;
 }
 
+/// The toolkit breaks each tool tip to a narrow column, also a path of a few folders.
+static bool fitsScreen(const QString& text) {
+  const QStringList lines = text.split(u'\n');
+  return std::all_of(lines.begin(), lines.end(), [](const QString& line) { return line.size() <= LongestToolTipLine; });
+}
+
 QString plainToolTip(const QString& text) {
-  return text.isEmpty() ? QString() : u"<qt>"_s + text.toHtmlEscaped().replace(u'\n', u"<br>"_s) + u"</qt>"_s;
+  if (text.isEmpty()) return {};
+  const QString style = fitsScreen(text) ? u" style='white-space:pre'"_s : QString();
+  return u"<qt><div%1>"_s.arg(style) + text.toHtmlEscaped().replace(u'\n', u"<br>"_s) + u"</div></qt>"_s;
+}
+
+QString requiredToolTip(const QString& heading, const QStringList& captions) {
+  return captions.isEmpty() ? QString() : plainToolTip(heading + u"\n– "_s + captions.join(u"\n– "_s));
 }

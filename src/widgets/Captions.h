@@ -18,3 +18,6 @@ void setFittedCaption(QPushButton& button, const QString& caption);
 
 /// A tool tip that shows its lines as they stand, also one that looks like markup.
 [[nodiscard]] QString plainToolTip(const QString& text);
+
+/// The tool tip of a button that is off until what `captions` name is entered; empty without any.
+[[nodiscard]] QString requiredToolTip(const QString& heading, const QStringList& captions);

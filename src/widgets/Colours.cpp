@@ -24,3 +24,10 @@ QPalette quieter(const QPalette& palette, int parts) {
                                               mixed(text.blue(), ground.blue())));
   return quiet;
 }
+
+QPalette noteColours(const QPalette& palette, bool wrong) {
+  if (!wrong) return quieter(palette, 2);
+  QPalette red;
+  red.setColor(QPalette::WindowText, requiredColor(palette));
+  return red;
+}

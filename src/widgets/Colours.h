@@ -14,3 +14,5 @@
 [[nodiscard]] QPalette readableCue(const QPalette& palette);
 /// The ground's text colour with `parts` of eight of the ground itself, for lines and text that stay in the back.
 [[nodiscard]] QPalette quieter(const QPalette& palette, int parts);
+/// For a line that tells how something stands: quiet, and red for what is `wrong`.
+[[nodiscard]] QPalette noteColours(const QPalette& palette, bool wrong);

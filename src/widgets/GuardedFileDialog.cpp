@@ -5,19 +5,23 @@
 #include <QAction>
 #include <QComboBox>
 #include <QCompleter>
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QFileSystemModel>
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QPushButton>
 #include <QSettings>
 #include <QShortcut>
 #include <QToolButton>
+#include <QTreeView>
 
 #include "platform/MountTable.h"
 #include "text/Placeholders.h"
@@ -62,6 +66,22 @@ const QString& withoutMemory(const QString& directory) {
   return directory;
 }
 
+/// The toolkit's columns are made for short American dates; other dates, and most sizes, don't fit.
+void fitColumns(QTreeView& list) {
+  enum Column { Name, Size, Type, Date };
+  QHeaderView& header = *list.header();
+  const QFontMetrics metrics = list.fontMetrics();
+  const auto fit = [&](Column column, const QString& longest) {
+    header.resizeSection(column, qMax(header.sectionSizeHint(column), metrics.horizontalAdvance(longest + u"mm"_s)));
+  };
+  const QLocale locale = QLocale::system();  // in which the toolkit's model writes them
+  fit(Size, locale.formattedDataSize(1023));
+  fit(Type, QCoreApplication::translate("QAbstractFileIconProvider", "Folder"));
+  fit(Date, locale.toString(QDateTime(QDate(2028, 12, 28), QTime(22, 58, 58)), QLocale::ShortFormat));
+  header.setStretchLastSection(false);
+  header.setSectionResizeMode(Name, QHeaderView::Stretch);
+}
+
 }  // namespace
 
 GuardedFileDialog::GuardedFileDialog(QWidget* window, const QString& title, const QString& directory)
@@ -83,6 +103,7 @@ GuardedFileDialog::GuardedFileDialog(QWidget* window, const QString& title, cons
   connect(&m_listing, &QTimer::timeout, this, [this] { tellSilent(m_model->rootPath()); });
   connect(m_model, &QFileSystemModel::rootPathChanged, this, &GuardedFileDialog::handleEntered);
   connect(m_model, &QFileSystemModel::directoryLoaded, this, &GuardedFileDialog::handleLoaded);
+  fitColumns(*findChild<QTreeView*>(u"treeView"_s));
   guardViews();
   guardName();
   guardPlaces();
@@ -98,6 +119,7 @@ bool GuardedFileDialog::toolkitIsKnown() const {
     if (!findChild<QToolButton*>(name)) return false;
   for (const QString& name : viewNames())
     if (!findChild<QAbstractItemView*>(name)) return false;
+  if (!findChild<QTreeView*>(u"treeView"_s)) return false;
   const auto* const sidebar = findChild<QAbstractItemView*>(u"sidebar"_s);
   const auto* const name = findChild<QLineEdit*>(u"fileNameEdit"_s);
   return sidebar && sidebar->metaObject()->indexOfSignal("goToUrl(QUrl)") >= 0 && name && name->completer() &&

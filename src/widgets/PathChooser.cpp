@@ -1,5 +1,6 @@
 #include "widgets/PathChooser.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileIconProvider>
 #include <QGridLayout>
@@ -41,7 +42,8 @@ class PlainIcons : public QFileIconProvider {
     return QFileIconProvider::icon(info.isDir() ? Folder : File);
   }
   [[nodiscard]] QString type(const QFileInfo& info) const override {
-    return info.isDir() ? QFileDialog::tr("Directory") : QFileDialog::tr("File");
+    // The words of the toolkit's own provider, which are translated where these are not.
+    return QCoreApplication::translate("QAbstractFileIconProvider", info.isDir() ? "Folder" : "File");
   }
 };
 }  // namespace

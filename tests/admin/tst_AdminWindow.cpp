@@ -3,6 +3,7 @@
 
 #include "AdminFixture.h"
 #include "admin/AdminPasswordWindow.h"
+#include "text/VTULocalization.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -32,6 +33,7 @@ class tst_AdminWindow : public QObject {
     fixture.type("SoapLogin", u"me"_s);
     fixture.type("soapPassword", u"  "_s);
     QCOMPARE(state(), u"---"_s);
+    QVERIFY2(fixture.control("OKAdminButton")->toolTip().contains(VTULocalization::klSoapPassword()), "why it is off");
     fixture.type("soapPassword", u"pw"_s);
     QCOMPARE(state(), u"OT-"_s);
     fixture.lock(true);

@@ -75,6 +75,8 @@ class tst_FootStrip : public QObject {
       QVERIFY2(line.tone == tone && line.text == text && line.more == more, qPrintable(line.text + line.more));
     }
     QCOMPARE(composeStrip(with({copy, upload})).details, words(copy) + u'\n' + words(upload));
+    const StripLine many = composeStrip(with({}, QStringList(100, u"D"_s)));
+    QVERIFY2(many.details.count(u'\n') < 20 && many.details.endsWith(u"(and 88 more)"_s), "fits the screen");
     StripInput input = sending(1, 2);
     input.notice = u"Not there."_s;
     QVERIFY2(composeStrip(input).text == input.notice, "an answer to the user comes before all");

@@ -176,6 +176,33 @@ class tst_MainWindow : public QObject {
     QVERIFY(!QApplication::activeModalWidget());
   }
 
+  void anEmptyListSaysWhatToDoOnceTheTasksAreLoaded() {
+    WindowFixture fixture;
+    const auto* const list = fixture.control<TaskListView>("TaskList");
+    fixture.window().ListTasks();
+    QVERIFY2(list->note().isEmpty(), "there may be tasks");
+    fixture.openWindow();
+    QVERIFY(list->note().contains(VTULocalization::klNew()));
+    fixture.listTasks({u"A"_s});
+    QVERIFY(list->note().isEmpty());
+  }
+
+  void whatTheStripCutsIsReadWithoutAPointer() {
+    WindowFixture fixture;
+    auto* const strip = fixture.control<ShadedStrip>("BottomShadingRect");
+    StripLine line{StripLine::Tone::Wrong, u"Short."_s, {}, u"Short."_s};
+    strip->setLine(line);
+    QCOMPARE(strip->focusPolicy(), Qt::NoFocus);
+    line.text = line.details = QString(60, u'W');
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_unknown}) {
+      strip->setLine(line);
+      QCOMPARE(strip->focusPolicy(), Qt::TabFocus);
+      const BoxAnswer ok(QMessageBox::Ok);
+      key == Qt::Key_unknown ? QTest::mouseClick(strip, Qt::LeftButton) : QTest::keyClick(strip, key);
+      QCOMPARE(ok.text(), line.details);
+    }
+  }
+
   void anAnswerOfTheUpdateHostIsTold() {
     for (const auto& scheme : {u"http"_s, u"file"_s}) QDesktopServices::setUrlHandler(scheme, this, "noteUrl");
     // The version and the address that it names, the button, and what is opened.

@@ -55,6 +55,7 @@ class tst_MainWindowLife : public QObject {
     QTRY_COMPARE(fixture.names(), u"A|B"_s);
     QCOMPARE(fixture.strip(), VTULocalization::klStripChecking());
     for (const TaskPointer& task : UploaderTask::allTasks()) task->Status = UploaderTask::Ready;
+    fixture.window().updateTaskStatusAndCount();
     QTRY_VERIFY(fixture.strip().startsWith(u"All is well since "_s));
     {
       const UploadHold hold;

@@ -81,6 +81,12 @@ class tst_TaskListModel : public QObject {
     QVERIFY2(!model.hasUnevaluated(), "a disabled task is not waited for at the start");
     model.setTasks({makeTask(u"a"_s), makeTask(u"b"_s, 0)}, true);
     QVERIFY(model.hasUnevaluated());
+    model.task(1)->Status = UploaderTask::Fault;
+    QVERIFY2(model.hasUnevaluated(), "all is well must not be told before a fault is shown");
+    model.refresh(true);
+    QVERIFY(!model.hasUnevaluated() && !model.faultyTasks().isEmpty());
+    model.refresh(false);
+    QVERIFY2(!model.faultyTasks().isEmpty(), "all is well must not be told while a dialog holds the upload");
   }
 };
 
