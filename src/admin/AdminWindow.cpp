@@ -122,7 +122,9 @@ void AdminWindow::doTest() {
   m_test.run<ConnectionAnswer>(
       0, [request](const auto&) { return testConnection(request); },
       [this, proxy = request.proxy](const ConnectionAnswer& answer) { testAnswered(answer, proxy); },
-      [this] { tellTest({klNotBegun(), {}}, true); });
+      [this] {
+        tellTest({klNotBegun(), {}}, true);
+      });
 }
 
 void AdminWindow::testAnswered(const ConnectionAnswer& answer, const VantryUtil::ProxySetting& proxy) {

@@ -125,7 +125,7 @@ class EditTaskWindow : public QDialog {
   AskedFolder theInputFolder, theOutPutFolder;
   bool m_inputTakenOver = false, m_outputTakenOver = false;  // as the task had it: forgotten if it is gone
   bool m_inputForgotten = false, m_outputForgotten = false;  // so it was; a good mount may bring it back
-  bool m_inputChosen = false, m_outputChosen = false;         // by hand: taken as it is, mounted or not
+  bool m_inputChosen = false, m_outputChosen = false;        // by hand: taken as it is, mounted or not
   std::optional<FolderItem> m_inputMount, m_outputMount;     // of a good test, where a choice begins
   PathChooser m_chooser;
   BackgroundCall m_sameFolderTest, m_inputMountTest, m_outputMountTest, m_clearing;

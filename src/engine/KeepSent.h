@@ -16,9 +16,9 @@ struct SentFile {
   ScannedFile scanned;
   QString newName;  ///< as the service was told
   Outcome outcome = Outcome::Gone;
-  QString error;      ///< as the service or the exchange named it
-  QString detail;     ///< " - " and the words of a service code
-  QString transport;  ///< how the exchange failed, for the window
+  QString error;                   ///< as the service or the exchange named it
+  QString detail;                  ///< " - " and the words of a service code
+  QString transport;               ///< how the exchange failed, for the window
   std::optional<FolderItem> copy;  ///< as keepSent() has placed it
 };
 

@@ -28,14 +28,14 @@ class FolderItem {
 
   [[nodiscard]] bool Exists() const;  ///< follows links; a broken or looping link doesn't exist
   [[nodiscard]] bool Directory() const;
-  [[nodiscard]] bool Visible() const;           ///< false for a name that begins with a dot
-  [[nodiscard]] bool IsReadable() const;        ///< for a folder: listed and entered
-  [[nodiscard]] bool IsWriteable() const;       ///< for a folder: files can be made in it
-  [[nodiscard]] bool isSameAs(const FolderItem& other) const;  ///< one and the same, by whatever paths
-  [[nodiscard]] std::optional<quint64> Device() const;          ///< of its file system, as long as that is mounted
+  [[nodiscard]] bool Visible() const;                            ///< false for a name that begins with a dot
+  [[nodiscard]] bool IsReadable() const;                         ///< for a folder: listed and entered
+  [[nodiscard]] bool IsWriteable() const;                        ///< for a folder: files can be made in it
+  [[nodiscard]] bool isSameAs(const FolderItem& other) const;    ///< one and the same, by whatever paths
+  [[nodiscard]] std::optional<quint64> Device() const;           ///< of its file system, as long as that is mounted
   [[nodiscard]] std::optional<QByteArray> WithoutLinks() const;  ///< the path that links lead to; nothing if it's gone
-  [[nodiscard]] qint64 Length() const;          ///< bytes; 0 if it doesn't exist
-  [[nodiscard]] Date ModificationDate() const;  ///< 1970-01-01 if it doesn't exist
+  [[nodiscard]] qint64 Length() const;                           ///< bytes; 0 if it doesn't exist
+  [[nodiscard]] Date ModificationDate() const;                   ///< 1970-01-01 if it doesn't exist
   /// Sets the modification date to `now`, links followed. Of a file that belongs to another user and may only be
   /// written, it becomes the present moment by the file system's own clock.
   IoResult setModifiedNow(const Date& now) const;

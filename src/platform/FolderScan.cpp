@@ -21,8 +21,7 @@ constexpr size_t kBufferSize = size_t{256} * 1024;
 
 class OpenFolder {
  public:
-  explicit OpenFolder(const FolderItem& folder)
-      : m_fd(opened(folder.bytes())) {}
+  explicit OpenFolder(const FolderItem& folder) : m_fd(opened(folder.bytes())) {}
   ~OpenFolder() {
     if (m_fd >= 0) ::close(m_fd);
   }
@@ -53,8 +52,8 @@ bool concernsFileAlone(int error) {
 constexpr int kMostUnseen = 8;
 
 bool concernsShare(int error) {
-  constexpr int known[] = {ENOTCONN,    ESTALE,   ETIMEDOUT,    EHOSTDOWN,  EHOSTUNREACH, ENETUNREACH, ENETDOWN,
-                           ECONNABORTED, ECONNRESET, ESHUTDOWN, ENODEV, ENOMEM};
+  constexpr int known[] = {ENOTCONN, ESTALE,       ETIMEDOUT,  EHOSTDOWN, EHOSTUNREACH, ENETUNREACH,
+                           ENETDOWN, ECONNABORTED, ECONNRESET, ESHUTDOWN, ENODEV,       ENOMEM};
   return std::find(std::begin(known), std::end(known), error) != std::end(known);
 }
 

@@ -13,8 +13,8 @@ struct Effort {
   int perPlace, inAll;
 };
 constexpr Effort kUsual{31, 8000};
-constexpr Effort kWithLongSteps{5, 1300};       // each goes over a piece of the name
-constexpr int kPerPlaceAlone = 160;             // of a pattern that can't be searched the second way
+constexpr Effort kWithLongSteps{5, 1300};  // each goes over a piece of the name
+constexpr int kPerPlaceAlone = 160;        // of a pattern that can't be searched the second way
 constexpr int kDepth = 4000;
 
 QString limits(int effort) { return u"(*LIMIT_MATCH=%1)(*LIMIT_DEPTH=%2)"_s.arg(effort).arg(kDepth); }
