@@ -73,10 +73,8 @@ class tst_TaskListModel : public QObject {
     QCOMPARE(changed[1][0].toModelIndex(), model.index(2, Model::StatusColumn));
     QCOMPARE(cell(model, 0, Model::FilesColumn).toString(), u"12345"_s);
     tasks[1]->Status = UploaderTask::Fault;
-    for (const bool enabled : {true, false}) {
-      model.refresh(enabled);
-      QCOMPARE(model.faultyTasks(), QStringList(u"c"_s));  // not the disabled one
-    }
+    model.refresh(true);
+    QCOMPARE(model.faultyTasks(), QStringList(u"c"_s));  // not the disabled one
     tasks[1]->Status = UploaderTask::NotEvaluated;
     QVERIFY2(!model.hasUnevaluated(), "a disabled task is not waited for at the start");
     model.setTasks({makeTask(u"a"_s), makeTask(u"b"_s, 0)}, true);
