@@ -6,7 +6,6 @@
 #include <QMutex>
 #include <QString>
 #include <QStringList>
-#include <atomic>
 #include <set>
 
 #include "service/VantryUtil.h"
@@ -22,7 +21,10 @@ class Catalogue {
     const QMutexLocker lock(&m_mutex);
     m_records = records;
   }
-  [[nodiscard]] bool everFetched() const { return m_everFetched; }
+  [[nodiscard]] bool everFetched() const {
+    const QMutexLocker lock(&m_mutex);
+    return m_everFetched;
+  }
   /// Empties the list as if it had never been fetched.
   void forget() {
     const QMutexLocker lock(&m_mutex);
@@ -51,9 +53,9 @@ class Catalogue {
   }
 
  private:
-  mutable QMutex m_mutex;  // guards m_records
+  mutable QMutex m_mutex;  // guards both below
   QList<Record> m_records;
-  std::atomic<bool> m_everFetched{false};
+  bool m_everFetched = false;
 };
 
 /// Equal without regard to case.
