@@ -10,6 +10,8 @@
 // A local kernel dates a file up to one tick before the moment of writing, in seconds.
 static constexpr double KernelTick = 0.01;
 
+static constexpr double FarAhead = 86'400;
+
 // The step in which this date was probably kept, in milliseconds: a finer file system seldom hits a whole second.
 static qint64 dateStepMs(qint64 mtimeNs) {
   constexpr qint64 second = 1'000'000'000;
@@ -61,10 +63,10 @@ void BatchLedger::takeLimit(double dateLimit) {
 BatchLedger::Judgement BatchLedger::judgeVersion(const ScannedFile& file, const Date& began, qint64 monotonicMs) const {
   const Fingerprint print = fingerprint(file);
   if (m_dealtWith.contains(print)) return {Verdict::DealtWith, print, {}};
-  // A date far ahead of us that the limit has passed: our clock was set far back, and the file is as old as it was.
+  // A date ahead of us by more than any share's clock is, and passed by the limit: our clock was set far back, and the
+  // file is as old as it was.
   const double date = secondsOf(file.version.mtimeNs);
-  if (date > began.TotalSeconds() + WindowSeconds && date <= m_limit - WindowSeconds)
-    return {Verdict::Older, print, {}};
+  if (date > began.TotalSeconds() + FarAhead && date <= m_limit - WindowSeconds) return {Verdict::Older, print, {}};
   // Without a memory the limit is all that an earlier run left us.
   if (!m_hasMemory && date <= m_limit) return {Verdict::Older, print, {}};
   const Rest found = rest(file, began, monotonicMs);
